@@ -1,0 +1,72 @@
+// Host services on a terminal: status texts on standard error, messages on standard output.
+#include "cli/cli_host.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <iostream>
+
+#include "cli/kpj_project.h"
+#include "foundation/os.h"
+
+void CliHost::showStatus(const std::string& text) { std::cerr << text << '\n'; }
+
+// A terminal has no use for the IDE's beeps: the status text says it all.
+void CliHost::beep(unsigned, unsigned) {}
+
+void CliHost::setBusy(bool) {}
+
+Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, const std::string& text) {
+  std::cout << text << '\n';
+  return ++lastMessage_;
+}
+
+Host::MessageHandle CliHost::addLocatedMessage(const MessageGroup&, MessageHandle, const std::string& text,
+                                               const std::string& file, int32_t line, uint16_t column, int32_t) {
+  std::cout << file << ':' << line << ':' << column << ": " << text << '\n';
+  return ++lastMessage_;
+}
+
+std::string CliHost::mainWindowTitle() {
+  if (!project_) return "Kesto";
+  std::string name = fileNameOf(project_->path());
+  size_t dot = name.rfind('.');
+  return "Kesto - " + (dot == std::string::npos ? name : name.substr(0, dot));
+}
+
+// There are no editors: the features read the files themselves.
+bool CliHost::editorText(const std::string&, std::string*) { return false; }
+
+void CliHost::goToLine(const std::string&, int32_t) {}
+
+std::string CliHost::projectFile() { return project_ ? project_->path() : std::string(); }
+
+const ProjectNode* CliHost::projectRoot() { return project_ ? &project_->root() : nullptr; }
+
+ProjectOptionStore* CliHost::projectOptions() { return project_; }
+
+int CliHost::runTool(const std::string&, const std::string&) { return -1; }
+
+MailResult CliHost::sendMail(const MailMessage&, std::string* err) {
+  if (err) *err = "no mail transport";
+  return MailResult::TransportMissing;
+}
+
+int CliHost::show(const std::string& text, const std::string& caption, unsigned style) {
+  bool question = (style & 0xF) == kAlertYesNo || (style & 0xF) == kAlertOkCancel;
+  if (!question) {
+    std::cerr << caption << ": " << text << '\n';
+    return kAnswerOk;
+  }
+  int yes = (style & 0xF) == kAlertYesNo ? kAnswerYes : kAnswerOk;
+  int no = (style & 0xF) == kAlertYesNo ? kAnswerNo : kAnswerCancel;
+  if (answerYes) return yes;
+  if (answerNo || !isatty(STDIN_FILENO) || !isatty(STDERR_FILENO)) {
+    std::cerr << caption << ": " << text << '\n';
+    return no;
+  }
+  std::cerr << caption << ": " << text << " [y/N] " << std::flush;
+  std::string reply;
+  std::getline(std::cin, reply);
+  return !reply.empty() && (reply[0] == 'y' || reply[0] == 'Y') ? yes : no;
+}

@@ -1,0 +1,41 @@
+// The Host of the command-line host: standard streams and the project file.
+#pragma once
+
+#include <string>
+
+#include "foundation/alert.h"
+#include "ide/host.h"
+
+class KpjProject;
+
+class CliHost : public Host, public AlertHandler {
+ public:
+  void setProject(KpjProject* project) { project_ = project; }
+
+  // --yes and --no: how questions are answered without asking.
+  bool answerYes = false;
+  bool answerNo = false;
+
+  void showStatus(const std::string& text) override;
+  void beep(unsigned frequencyHz, unsigned durationMs) override;
+  void setBusy(bool busy) override;
+  MessageHandle addMessage(const MessageGroup& group, MessageHandle parent, const std::string& text) override;
+  MessageHandle addLocatedMessage(const MessageGroup& group, MessageHandle parent, const std::string& text,
+                                  const std::string& file, int32_t line, uint16_t column, int32_t kind) override;
+  std::string mainWindowTitle() override;
+  bool editorText(const std::string& file, std::string* text) override;
+  void goToLine(const std::string& file, int32_t line) override;
+  std::string projectFile() override;
+  const ProjectNode* projectRoot() override;
+  ProjectOptionStore* projectOptions() override;
+  int runTool(const std::string& tool, const std::string& file) override;
+  MailResult sendMail(const MailMessage& message, std::string* err) override;
+
+  // Boxes print "CAPTION: TEXT" on standard error; a question is asked on a
+  // terminal and otherwise answered by --yes/--no (No when neither was given).
+  int show(const std::string& text, const std::string& caption, unsigned style) override;
+
+ private:
+  KpjProject* project_ = nullptr;
+  MessageHandle lastMessage_ = 0;
+};

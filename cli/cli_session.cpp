@@ -1,0 +1,83 @@
+// The open project, the settings file and the host of one kesto run.
+#include "cli/cli_session.h"
+
+#include <cstdlib>
+#include <iostream>
+
+#include "foundation/file_mask.h"
+#include "foundation/os.h"
+#include "foundation/settings.h"
+
+namespace {
+
+// The one *.kpj of the current directory; empty when there is none or several.
+std::string projectInCurrentDirectory() {
+  std::vector<DirectoryEntry> entries;
+  if (!os().listDirectory(".", &entries, nullptr)) return "";
+  std::string found;
+  for (const DirectoryEntry& entry : entries) {
+    if (entry.attributes.isDirectory || !matchesMask(entry.name, "*.kpj")) continue;
+    if (!found.empty()) return "";
+    found = entry.name;
+  }
+  return found;
+}
+
+std::string absolute(const std::string& path) {
+  if (!path.empty() && path[0] == kPathSeparator) return path;
+  return joinPath(os().currentDirectory(), path);
+}
+
+}  // namespace
+
+std::string settingsFilePath() {
+  if (const char* explicitPath = std::getenv("KESTO_SETTINGS"); explicitPath && *explicitPath) return explicitPath;
+  if (const char* config = std::getenv("XDG_CONFIG_HOME"); config && *config)
+    return joinPath(joinPath(config, "kesto"), "settings.reg");
+  const char* home = std::getenv("HOME");
+  return joinPath(joinPath(joinPath(home ? home : ".", ".config"), "kesto"), "settings.reg");
+}
+
+void reportError(const std::string& text) { std::cerr << "kesto: " << text << '\n'; }
+
+CliSession::CliSession() : settingsFile_(settingsFilePath()) {
+  settings().setBackend(&settingsFile_);
+  setAlertHandler(&host_);
+  if (!settingsFile_.check()) reportError(settingsFile_.error() + " (defaults are used; the file is left as it is)");
+}
+
+CliSession::~CliSession() {
+  setAlertHandler(nullptr);
+  settings().setBackend(nullptr);
+}
+
+bool CliSession::openProject() {
+  if (opened_) return true;
+  opened_ = true;
+  std::string path = projectOption.empty() ? projectInCurrentDirectory() : projectOption;
+  if (path.empty()) return true;
+  auto project = std::make_unique<KpjProject>();
+  std::string err;
+  if (!project->load(absolute(path), &err)) {
+    reportError(err);
+    exitStatus = kExitNothing;
+    return false;
+  }
+  project_ = std::move(project);
+  host_.setProject(project_.get());
+  return true;
+}
+
+bool CliSession::requireProject() {
+  if (!openProject()) return false;
+  if (project_) return true;
+  reportError("no project: give --project FILE or run where one *.kpj file is");
+  exitStatus = kExitUsage;
+  return false;
+}
+
+std::string CliSession::projectDirectory() {
+  if (!project_) return os().currentDirectory();
+  std::string dir = directoryOf(project_->path());
+  return dir.empty() ? os().currentDirectory() : dir;
+}

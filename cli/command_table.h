@@ -1,0 +1,23 @@
+// The kesto commands as data: the table that builds the parser also prints the help.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+class CliSession;
+
+struct CommandGroup {
+  const char* name;
+  const char* summary;
+  // Adds the group's options and subcommands to its subcommand and binds their actions.
+  void (*install)(CLI::App& command, CliSession& session);
+};
+
+// "1.0.0": the version of this build.
+const char* kestoVersion();
+
+// Every command group, in the order of the help text.
+const std::vector<CommandGroup>& commandGroups();
+
+// The installers, one per command file.
+void installSettingsCommands(CLI::App& command, CliSession& session);
+void installProjectCommands(CLI::App& command, CliSession& session);

@@ -1,0 +1,169 @@
+// Reading and writing NAME.kpj without exceptions: parse errors come back with a line and column.
+#include "cli/kpj_project.h"
+
+#include <cstring>
+#include <limits>
+
+#include "foundation/os.h"
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// Line and column of a byte offset, both 1-based.
+std::string position(const std::string& text, size_t offset) {
+  size_t line = 1;
+  size_t column = 1;
+  for (size_t i = 0; i < offset && i < text.size(); ++i) {
+    if (text[i] == '\n') {
+      ++line;
+      column = 1;
+    } else {
+      ++column;
+    }
+  }
+  return std::to_string(line) + ":" + std::to_string(column);
+}
+
+// Collects the first syntax error instead of throwing.
+class ErrorCatcher : public nlohmann::json_sax<Json> {
+ public:
+  bool null() override { return true; }
+  bool boolean(bool) override { return true; }
+  bool number_integer(number_integer_t) override { return true; }
+  bool number_unsigned(number_unsigned_t) override { return true; }
+  bool number_float(number_float_t, const string_t&) override { return true; }
+  bool string(string_t&) override { return true; }
+  bool binary(binary_t&) override { return true; }
+  bool start_object(std::size_t) override { return true; }
+  bool key(string_t&) override { return true; }
+  bool end_object() override { return true; }
+  bool start_array(std::size_t) override { return true; }
+  bool end_array() override { return true; }
+  bool parse_error(std::size_t offset, const std::string&, const nlohmann::detail::exception& ex) override {
+    where = offset;
+    const char* what = ex.what();
+    const char* detail = std::strstr(what, ": ");
+    message = detail ? detail + 2 : what;
+    return false;
+  }
+
+  size_t where = 0;
+  std::string message;
+};
+
+bool readNode(const Json& value, ProjectNode* node, std::string* why) {
+  if (!value.is_object()) {
+    *why = "a node must be an object";
+    return false;
+  }
+  struct Field {
+    const char* key;
+    std::string* target;
+  } fields[] = {{"name", &node->name},
+                {"type", &node->type},
+                {"description", &node->description},
+                {"include_path", &node->includePath},
+                {"source_path", &node->sourcePath}};
+  for (const Field& field : fields) {
+    auto found = value.find(field.key);
+    if (found == value.end()) continue;
+    if (!found->is_string()) {
+      *why = std::string("\"") + field.key + "\" must be a string";
+      return false;
+    }
+    *field.target = found->get<std::string>();
+  }
+  auto children = value.find("nodes");
+  if (children == value.end()) return true;
+  if (!children->is_array()) {
+    *why = "\"nodes\" must be an array";
+    return false;
+  }
+  for (const Json& child : *children) {
+    ProjectNode childNode;
+    if (!readNode(child, &childNode, why)) return false;
+    node->nodes.push_back(childNode);
+  }
+  return true;
+}
+
+}  // namespace
+
+std::string KpjProject::emptyText() { return "{\n  \"nodes\": [],\n  \"options\": {}\n}\n"; }
+
+bool KpjProject::load(const std::string& path, std::string* err) {
+  std::string text;
+  if (!os().readFile(path, &text, err)) return false;
+  return parse(path, text, err);
+}
+
+bool KpjProject::parse(const std::string& path, const std::string& text, std::string* err) {
+  path_ = path;
+  document_ = Json::parse(text, nullptr, false, true);
+  if (document_.is_discarded()) {
+    // Parse again with a handler that keeps the error's offset.
+    ErrorCatcher catcher;
+    Json::sax_parse(text, &catcher, nlohmann::detail::input_format_t::json, true, true);
+    if (err) *err = path + ":" + position(text, catcher.where > 0 ? catcher.where - 1 : 0) + ": " + catcher.message;
+    return false;
+  }
+  if (!document_.is_object()) {
+    if (err) *err = path + ":1:1: a project file holds one JSON object";
+    return false;
+  }
+  root_ = ProjectNode();
+  root_.name = fileNameOf(path);
+  root_.type = ".kpj";
+  ProjectNode top;
+  Json asNode = Json::object();
+  if (document_.contains("nodes")) asNode["nodes"] = document_["nodes"];
+  std::string why;
+  if (!readNode(asNode, &top, &why)) {
+    if (err) *err = path + ": " + why;
+    return false;
+  }
+  root_.nodes = top.nodes;
+  if (document_.contains("options") && !document_["options"].is_object()) {
+    if (err) *err = path + ": \"options\" must be an object";
+    return false;
+  }
+  return true;
+}
+
+bool KpjProject::save(std::string* err) {
+  return os().writeFileAtomic(path_, document_.dump(2) + "\n", err);
+}
+
+bool KpjProject::get(const std::string& name, std::string* bytes) {
+  auto options = document_.find("options");
+  if (options == document_.end() || !options->is_object()) return false;
+  auto value = options->find(name);
+  if (value == options->end()) return false;
+  if (value->is_number_integer()) {
+    long long number = value->get<long long>();
+    if (number < std::numeric_limits<int32_t>::min() || number > std::numeric_limits<uint32_t>::max()) return false;
+    *bytes = encodeIntegerOption(static_cast<int32_t>(static_cast<uint32_t>(number)));
+    return true;
+  }
+  if (value->is_string()) {
+    *bytes = value->get<std::string>();
+    bytes->push_back('\0');
+    return true;
+  }
+  return false;
+}
+
+bool KpjProject::set(const std::string& name, const std::string& bytes) {
+  const ProjectOptionInfo* info = findProjectOption(name);
+  bool isInteger = info ? info->isInteger : (bytes.size() == 4 && bytes.back() != '\0');
+  Json& options = document_["options"];
+  if (isInteger) {
+    int32_t value = 0;
+    if (!decodeIntegerOption(bytes, &value)) return false;
+    options[name] = value;
+  } else {
+    options[name] = std::string(bytes.c_str());
+  }
+  return true;
+}

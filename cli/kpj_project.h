@@ -1,0 +1,37 @@
+// The command-line host's project file, NAME.kpj: the node tree and the
+// per-project options, in JSON.
+#pragma once
+
+#include <string>
+
+#include <nlohmann/json.hpp>
+
+#include "ide/project_options.h"
+#include "ide/project_tree.h"
+
+class KpjProject : public ProjectOptionStore {
+ public:
+  // False with "PATH:LINE:COLUMN: what" (or the OS's words) in *err when the
+  // file cannot be read or is not a project file.
+  bool load(const std::string& path, std::string* err);
+  // Parses text read from path (used by load and the fuzz target).
+  bool parse(const std::string& path, const std::string& text, std::string* err);
+  // Rewrites the file atomically.
+  bool save(std::string* err);
+
+  const std::string& path() const { return path_; }
+  // The project's top node: the project file itself, holding the file's nodes.
+  const ProjectNode& root() const { return root_; }
+
+  // Integers are JSON integers, texts JSON strings with their marker.
+  bool get(const std::string& name, std::string* bytes) override;
+  bool set(const std::string& name, const std::string& bytes) override;
+
+  // An empty project file's text.
+  static std::string emptyText();
+
+ private:
+  std::string path_;
+  nlohmann::ordered_json document_;
+  ProjectNode root_;
+};

@@ -1,0 +1,120 @@
+// kesto project new|show|set: the project file and its per-project options.
+#include <cstdlib>
+#include <iostream>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "foundation/os.h"
+#include "foundation/settings.h"
+
+namespace {
+
+struct ProjectArguments {
+  std::string file;
+  std::string name;
+  std::string value;
+};
+
+// Records the options in the order that saving writes them.
+class OrderedOptions : public ProjectOptionStore {
+ public:
+  bool get(const std::string&, std::string*) override { return false; }
+  bool set(const std::string& name, const std::string& bytes) override {
+    entries.emplace_back(name, bytes);
+    return true;
+  }
+  std::vector<std::pair<std::string, std::string>> entries;
+};
+
+void printNode(const ProjectNode& node, const std::string& indent) {
+  std::cout << indent << node.name << '\t' << node.type << '\n';
+  for (const ProjectNode& child : node.nodes) printNode(child, indent + "  ");
+}
+
+std::string optionText(const std::string& name, const std::string& bytes) {
+  const ProjectOptionInfo* info = findProjectOption(name);
+  int32_t number = 0;
+  if (info && info->isInteger && decodeIntegerOption(bytes, &number)) return std::to_string(number);
+  std::string text;
+  decodeTextOption(bytes, &text);
+  return text;
+}
+
+void create(CliSession& session, const ProjectArguments& args) {
+  std::string err;
+  if (os().exists(args.file)) {
+    reportError(args.file + " exists already");
+    session.exitStatus = kExitNothing;
+  } else if (!os().writeFileAtomic(args.file, KpjProject::emptyText(), &err)) {
+    reportError(err);
+    session.exitStatus = kExitNothing;
+  }
+}
+
+void show(CliSession& session) {
+  if (!session.requireProject()) return;
+  KpjProject& project = *session.project();
+  std::cout << "nodes:\n";
+  for (const ProjectNode& node : project.root().nodes) printNode(node, "  ");
+  std::cout << "options:\n";
+  OrderedOptions ordered;
+  writeProjectOptions(ordered, readProjectOptions(project, settings().readInteger("TopBar", "Hierarchical", 0)));
+  for (const auto& [name, bytes] : ordered.entries) std::cout << "  " << name << '\t' << optionText(name, bytes) << '\n';
+}
+
+bool parseInteger(const std::string& text, int32_t* value) {
+  char* end = nullptr;
+  long long parsed = std::strtoll(text.c_str(), &end, 10);
+  if (text.empty() || *end != 0 || parsed < INT32_MIN || parsed > INT32_MAX) return false;
+  *value = static_cast<int32_t>(parsed);
+  return true;
+}
+
+void set(CliSession& session, const ProjectArguments& args) {
+  if (!session.requireProject()) return;
+  const ProjectOptionInfo* info = findProjectOption(args.name);
+  if (!info) {
+    std::string names;
+    for (const ProjectOptionInfo& known : projectOptionTable()) names += std::string(" ") + known.name;
+    reportError("unknown option " + args.name + "; the options are:" + names);
+    session.exitStatus = kExitUsage;
+    return;
+  }
+  std::string bytes;
+  int32_t number = 0;
+  if (info->isInteger) {
+    if (!parseInteger(args.value, &number)) {
+      reportError(args.name + " takes a whole number, not \"" + args.value + "\"");
+      session.exitStatus = kExitUsage;
+      return;
+    }
+    bytes = encodeIntegerOption(number);
+  } else {
+    bytes = encodeTextOption(info->marker, args.value);
+  }
+  std::string err;
+  if (!session.project()->set(args.name, bytes) || !session.project()->save(&err)) {
+    reportError(err.empty() ? "cannot set " + args.name : err);
+    session.exitStatus = kExitNothing;
+  }
+}
+
+}  // namespace
+
+void installProjectCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<ProjectArguments>();
+  command.require_subcommand(1);
+
+  CLI::App* newCommand = command.add_subcommand("new", "Create an empty project file");
+  newCommand->add_option("file", args->file, "Project file to create (NAME.kpj)")->required();
+  newCommand->callback([&session, args] { create(session, *args); });
+
+  CLI::App* showCommand = command.add_subcommand("show", "Print the node tree and the options' effective values");
+  showCommand->callback([&session] { show(session); });
+
+  CLI::App* setCommand = command.add_subcommand("set", "Set a per-project option (integer or text by its kind)");
+  setCommand->add_option("name", args->name, "Option name, such as Kesto_HIERARCH")->required();
+  setCommand->add_option("value", args->value, "Value; texts are stored with their marker")->required();
+  setCommand->callback([&session, args] { set(session, *args); });
+}

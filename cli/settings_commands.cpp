@@ -1,0 +1,76 @@
+// kesto settings get|set|list: the settings store from the command line.
+#include <iostream>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "foundation/settings.h"
+
+namespace {
+
+struct SettingsArguments {
+  std::string section;
+  std::string name;
+  std::string value;
+  std::string defaultText;
+  bool hasDefault = false;
+};
+
+void printSection(SettingsBackend& backend, const std::string& section, bool withSection) {
+  std::vector<SettingsValue> values;
+  if (backend.list(settings().keyPath(section), &values))
+    for (const SettingsValue& value : values)
+      std::cout << (withSection ? section + "\t" : "") << value.name << '\t' << value.text << '\n';
+  for (const std::string& sub : backend.subkeys(settings().keyPath(section)))
+    if (withSection) printSection(backend, section + "\\" + sub, true);
+}
+
+void get(CliSession& session, const SettingsArguments& args) {
+  std::string text;
+  if (!settings().readString(args.section, args.name, &text, args.hasDefault ? args.defaultText.c_str() : nullptr)) {
+    reportError(args.section + "/" + args.name + " is not set");
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  std::cout << text << '\n';
+}
+
+void set(CliSession& session, const SettingsArguments& args) {
+  if (!settings().writeString(args.section, args.name, args.value)) {
+    reportError("cannot write " + args.section + "/" + args.name + ": " + session.settingsFile().error());
+    session.exitStatus = kExitNothing;
+  }
+}
+
+void list(CliSession& session, const SettingsArguments& args) {
+  SettingsBackend& backend = session.settingsFile();
+  if (!args.section.empty()) {
+    printSection(backend, args.section, false);
+    return;
+  }
+  for (const std::string& section : backend.subkeys(settings().root())) printSection(backend, section, true);
+}
+
+}  // namespace
+
+void installSettingsCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<SettingsArguments>();
+  command.require_subcommand(1);
+
+  CLI::App* getCommand = command.add_subcommand("get", "Print a value (SECTION may hold a list: TopBar\\IDE)");
+  getCommand->add_option("section", args->section, "Section")->required();
+  getCommand->add_option("name", args->name, "Value name")->required();
+  getCommand->add_option("--default", args->defaultText, "Printed when the value is absent")
+      ->each([args](const std::string&) { args->hasDefault = true; });
+  getCommand->callback([&session, args] { get(session, *args); });
+
+  CLI::App* setCommand = command.add_subcommand("set", "Write a value (numbers are stored as text too)");
+  setCommand->add_option("section", args->section, "Section")->required();
+  setCommand->add_option("name", args->name, "Value name")->required();
+  setCommand->add_option("value", args->value, "Text to store")->required();
+  setCommand->callback([&session, args] { set(session, *args); });
+
+  CLI::App* listCommand = command.add_subcommand("list", "List values: NAME<TAB>TEXT, or SECTION<TAB>NAME<TAB>TEXT");
+  listCommand->add_option("section", args->section, "Section (default: every section)");
+  listCommand->callback([&session, args] { list(session, *args); });
+}

@@ -1,0 +1,356 @@
+// The OS layer on POSIX systems.
+#include <dirent.h>
+#include <fcntl.h>
+#include <langinfo.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <sys/time.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+
+#include "foundation/file_mask.h"
+#include "foundation/os.h"
+
+namespace {
+
+bool fail(std::string* err, const char* call, const std::string& path) {
+  if (err) *err = std::string(call) + " " + path + ": " + std::strerror(errno);
+  return false;
+}
+
+bool writeAll(int fd, const std::string& data) {
+  size_t done = 0;
+  while (done < data.size()) {
+    ssize_t n = ::write(fd, data.data() + done, data.size() - done);
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      return false;
+    }
+    done += static_cast<size_t>(n);
+  }
+  return true;
+}
+
+bool writeWithFlags(const std::string& path, const std::string& data, int flags, std::string* err) {
+  int fd = ::open(path.c_str(), flags, 0666);
+  if (fd < 0) return fail(err, "open", path);
+  bool ok = writeAll(fd, data);
+  int savedErrno = errno;
+  if (::close(fd) != 0 && ok) return fail(err, "close", path);
+  errno = savedErrno;
+  return ok ? true : fail(err, "write", path);
+}
+
+FileAttributes fromStat(const struct stat& info) {
+  FileAttributes attributes;
+  attributes.isDirectory = S_ISDIR(info.st_mode);
+  attributes.readOnly = (info.st_mode & S_IWUSR) == 0;
+  attributes.modified = static_cast<int64_t>(info.st_mtime);
+  attributes.size = static_cast<uint64_t>(info.st_size);
+  return attributes;
+}
+
+SystemTime fromTm(const struct tm& t, long milliseconds) {
+  SystemTime time;
+  time.year = static_cast<uint16_t>(t.tm_year + 1900);
+  time.month = static_cast<uint16_t>(t.tm_mon + 1);
+  time.dayOfWeek = static_cast<uint16_t>(t.tm_wday);
+  time.day = static_cast<uint16_t>(t.tm_mday);
+  time.hour = static_cast<uint16_t>(t.tm_hour);
+  time.minute = static_cast<uint16_t>(t.tm_min);
+  time.second = static_cast<uint16_t>(t.tm_sec);
+  time.milliseconds = static_cast<uint16_t>(milliseconds);
+  return time;
+}
+
+struct tm toTm(const SystemTime& time) {
+  struct tm t;
+  std::memset(&t, 0, sizeof t);
+  t.tm_year = time.year - 1900;
+  t.tm_mon = time.month - 1;
+  t.tm_mday = time.day;
+  t.tm_hour = time.hour;
+  t.tm_min = time.minute;
+  t.tm_sec = time.second;
+  t.tm_wday = time.dayOfWeek;
+  return t;
+}
+
+// The locale whose time formats apply: the user's LC_TIME, or the system default "C".
+const char* timeLocale(LocaleChoice choice) {
+  if (choice == LocaleChoice::System) return "C";
+  const char* names[] = {"LC_ALL", "LC_TIME", "LANG"};
+  for (const char* name : names) {
+    const char* value = std::getenv(name);
+    if (value && *value) return value;
+  }
+  return "C";
+}
+
+bool isPlainCLocale(const char* name) {
+  return std::strcmp(name, "C") == 0 || std::strcmp(name, "POSIX") == 0 || std::strncmp(name, "C.", 2) == 0;
+}
+
+const char* const kDayNames[] = {"Sunday", "Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday"};
+const char* const kMonthNames[] = {"January", "February", "March",     "April",   "May",      "June",
+                                   "July",    "August",   "September", "October", "November", "December"};
+
+// In the C locale the forms are those of Windows' default US locale, so that
+// the add-on and the command-line host print the same texts.
+std::string usDate(const SystemTime& date, DateForm form) {
+  char text[80];
+  if (form == DateForm::Short) {
+    std::snprintf(text, sizeof text, "%u/%u/%u", date.month, date.day, date.year);
+  } else {
+    std::snprintf(text, sizeof text, "%s, %s %u, %u", kDayNames[date.dayOfWeek % 7],
+                  kMonthNames[(date.month + 11) % 12], date.day, date.year);
+  }
+  return text;
+}
+
+std::string usTime(const SystemTime& time) {
+  char text[40];
+  unsigned hour12 = time.hour % 12 == 0 ? 12 : time.hour % 12;
+  std::snprintf(text, sizeof text, "%u:%02u:%02u %s", hour12, time.minute, time.second, time.hour < 12 ? "AM" : "PM");
+  return text;
+}
+
+// Formats with the locale's own pattern, in a private locale object so that the
+// process's global locale never changes.
+std::string localeFormat(const char* localeName, nl_item item, const SystemTime& time, const char* fallback) {
+  locale_t locale = newlocale(LC_TIME_MASK, localeName, static_cast<locale_t>(0));
+  if (!locale) return "";
+  const char* pattern = nl_langinfo_l(item, locale);
+  if (!pattern || !*pattern) pattern = fallback;
+  struct tm t = toTm(time);
+  char text[128];
+  size_t n = strftime_l(text, sizeof text, pattern, &t, locale);
+  freelocale(locale);
+  return std::string(text, n);
+}
+
+class PosixOs : public Os {
+ public:
+  bool readFile(const std::string& path, std::string* data, std::string* err) override {
+    int fd = ::open(path.c_str(), O_RDONLY);
+    if (fd < 0) return fail(err, "open", path);
+    data->clear();
+    char buffer[65536];
+    for (;;) {
+      ssize_t n = ::read(fd, buffer, sizeof buffer);
+      if (n < 0) {
+        if (errno == EINTR) continue;
+        int savedErrno = errno;
+        ::close(fd);
+        errno = savedErrno;
+        return fail(err, "read", path);
+      }
+      if (n == 0) break;
+      data->append(buffer, static_cast<size_t>(n));
+    }
+    ::close(fd);
+    return true;
+  }
+
+  bool writeFile(const std::string& path, const std::string& data, std::string* err) override {
+    return writeWithFlags(path, data, O_WRONLY | O_CREAT | O_TRUNC, err);
+  }
+
+  bool appendFile(const std::string& path, const std::string& data, std::string* err) override {
+    return writeWithFlags(path, data, O_WRONLY | O_CREAT | O_APPEND, err);
+  }
+
+  bool exists(const std::string& path) override {
+    struct stat info;
+    return ::stat(path.c_str(), &info) == 0;
+  }
+
+  bool attributes(const std::string& path, FileAttributes* out, std::string* err) override {
+    struct stat info;
+    if (::stat(path.c_str(), &info) != 0) return fail(err, "stat", path);
+    *out = fromStat(info);
+    return true;
+  }
+
+  bool setReadOnly(const std::string& path, bool readOnly, std::string* err) override {
+    struct stat info;
+    if (::stat(path.c_str(), &info) != 0) return fail(err, "stat", path);
+    mode_t mode = info.st_mode & 07777;
+    mode = readOnly ? (mode & ~static_cast<mode_t>(0222)) : (mode | S_IWUSR);
+    if (::chmod(path.c_str(), mode) != 0) return fail(err, "chmod", path);
+    return true;
+  }
+
+  bool setModified(const std::string& path, int64_t modified, std::string* err) override {
+    struct timeval times[2];
+    times[0].tv_sec = static_cast<time_t>(modified);
+    times[0].tv_usec = 0;
+    times[1] = times[0];
+    if (::utimes(path.c_str(), times) != 0) return fail(err, "utimes", path);
+    return true;
+  }
+
+  bool listDirectory(const std::string& dir, std::vector<DirectoryEntry>* entries, std::string* err) override {
+    DIR* handle = ::opendir(dir.c_str());
+    if (!handle) return fail(err, "opendir", dir);
+    entries->clear();
+    while (struct dirent* entry = ::readdir(handle)) {
+      if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0) continue;
+      struct stat info;
+      std::string full = joinPath(dir, entry->d_name);
+      if (::stat(full.c_str(), &info) != 0) continue;  // a dangling link is not an entry
+      entries->push_back(DirectoryEntry{entry->d_name, fromStat(info)});
+    }
+    ::closedir(handle);
+    std::sort(entries->begin(), entries->end(),
+              [](const DirectoryEntry& a, const DirectoryEntry& b) { return lessFileName(a.name, b.name); });
+    return true;
+  }
+
+  bool makeDirectory(const std::string& path, std::string* err) override {
+    if (::mkdir(path.c_str(), 0777) != 0) return fail(err, "mkdir", path);
+    return true;
+  }
+
+  bool removeFile(const std::string& path, std::string* err) override {
+    if (::unlink(path.c_str()) != 0) return fail(err, "unlink", path);
+    return true;
+  }
+
+  bool removeDirectory(const std::string& path, std::string* err) override {
+    if (::rmdir(path.c_str()) != 0) return fail(err, "rmdir", path);
+    return true;
+  }
+
+  bool renameFile(const std::string& from, const std::string& to, std::string* err) override {
+    // link() refuses an existing target atomically, which rename() would overwrite.
+    if (::link(from.c_str(), to.c_str()) != 0) {
+      if (errno != EPERM && errno != ENOTSUP && errno != EXDEV) return fail(err, "rename", from + " to " + to);
+      if (exists(to)) {
+        errno = EEXIST;
+        return fail(err, "rename", from + " to " + to);
+      }
+      if (::rename(from.c_str(), to.c_str()) != 0) return fail(err, "rename", from + " to " + to);
+      return true;
+    }
+    if (::unlink(from.c_str()) != 0) return fail(err, "rename", from + " to " + to);
+    return true;
+  }
+
+  bool replaceFile(const std::string& from, const std::string& to, std::string* err) override {
+    if (::rename(from.c_str(), to.c_str()) != 0) return fail(err, "rename", from + " to " + to);
+    return true;
+  }
+
+  bool copyFile(const std::string& from, const std::string& to, bool failIfExists, std::string* err) override {
+    FileAttributes source;
+    if (!attributes(from, &source, err)) return false;
+    std::string data;
+    if (!readFile(from, &data, err)) return false;
+    int flags = O_WRONLY | O_CREAT | O_TRUNC | (failIfExists ? O_EXCL : 0);
+    if (!failIfExists && exists(to)) {
+      FileAttributes target;
+      // Windows refuses to overwrite a read-only file.
+      if (attributes(to, &target, nullptr) && target.readOnly) {
+        errno = EACCES;
+        return fail(err, "copy", from + " to " + to);
+      }
+    }
+    if (!writeWithFlags(to, data, flags, err)) return false;
+    return setModified(to, source.modified, err) && setReadOnly(to, source.readOnly, err);
+  }
+
+  std::string currentDirectory() override {
+    char buffer[4096];
+    return ::getcwd(buffer, sizeof buffer) ? std::string(buffer) : std::string(".");
+  }
+
+  bool setCurrentDirectory(const std::string& path, std::string* err) override {
+    if (::chdir(path.c_str()) != 0) return fail(err, "chdir", path);
+    return true;
+  }
+
+  std::string userName() override {
+    if (struct passwd* entry = ::getpwuid(::geteuid())) return entry->pw_name;
+    const char* user = std::getenv("USER");
+    return user ? user : "";
+  }
+
+  SystemTime localTime() override {
+    struct timeval now;
+    ::gettimeofday(&now, nullptr);
+    struct tm t;
+    ::localtime_r(&now.tv_sec, &t);
+    return fromTm(t, now.tv_usec / 1000);
+  }
+
+  SystemTime systemTime() override {
+    struct timeval now;
+    ::gettimeofday(&now, nullptr);
+    struct tm t;
+    ::gmtime_r(&now.tv_sec, &t);
+    return fromTm(t, now.tv_usec / 1000);
+  }
+
+  std::string formatDate(const SystemTime& date, DateForm form, LocaleChoice choice) override {
+    const char* name = timeLocale(choice);
+    if (isPlainCLocale(name)) return usDate(date, form);
+    // A locale that is not installed falls back to the US forms, as Windows does.
+    std::string text = form == DateForm::Short ? localeFormat(name, D_FMT, date, "%x") : longDate(name, date);
+    return text.empty() ? usDate(date, form) : text;
+  }
+
+  std::string formatTime(const SystemTime& time, LocaleChoice choice) override {
+    const char* name = timeLocale(choice);
+    if (isPlainCLocale(name)) return usTime(time);
+    std::string text = localeFormat(name, T_FMT, time, "%X");
+    return text.empty() ? usTime(time) : text;
+  }
+
+  bool openDocument(const std::string& path, std::string* err) override {
+    pid_t child = ::fork();
+    if (child < 0) return fail(err, "fork", path);
+    if (child == 0) {
+      ::execlp("xdg-open", "xdg-open", path.c_str(), static_cast<char*>(nullptr));
+      ::_exit(127);
+    }
+    int status = 0;
+    if (::waitpid(child, &status, 0) < 0) return fail(err, "waitpid", path);
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0) {
+      if (err) *err = "xdg-open " + path + ": failed";
+      return false;
+    }
+    return true;
+  }
+
+ private:
+  // The long form spells out the weekday and the month in the locale's words.
+  static std::string longDate(const char* name, const SystemTime& date) {
+    locale_t locale = newlocale(LC_TIME_MASK, name, static_cast<locale_t>(0));
+    if (!locale) return "";
+    struct tm t = toTm(date);
+    char text[128];
+    size_t n = strftime_l(text, sizeof text, "%A %e %B %Y", &t, locale);
+    freelocale(locale);
+    std::string out(text, n);
+    // "%e" pads single-digit days with a blank.
+    size_t doubled = out.find("  ");
+    if (doubled != std::string::npos) out.erase(doubled, 1);
+    return out;
+  }
+};
+
+}  // namespace
+
+Os& platformOs() {
+  static PosixOs instance;
+  return instance;
+}

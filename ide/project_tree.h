@@ -1,0 +1,29 @@
+// The project's node tree as every host exposes it to the features.
+#pragma once
+
+#include <string>
+#include <vector>
+
+// A node of the project tree. name is the node's file (relative to the project
+// directory or absolute); the two paths are its directory options.
+struct ProjectNode {
+  std::string name;
+  std::string type;         // node type, such as ".exe", ".cpp", "SourcePool"
+  std::string description;
+  std::string includePath;  // directory option kind 1
+  std::string sourcePath;   // directory option kind 3
+  std::vector<ProjectNode> nodes;
+};
+
+// The IDE's selectors for a node's directory options.
+enum class NodeOptionKind { IncludePath = 1, SourcePath = 3 };
+
+// The node whose file is `file` (compared by file name, case-insensitively),
+// searched depth-first from root; null when none holds it.
+const ProjectNode* findNodeHoldingFile(const ProjectNode& root, const std::string& file);
+
+// The first node of that name, depth-first; null when none.
+const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name);
+
+// The option of the node; false when the node has none (empty value).
+bool nodeOption(const ProjectNode& node, NodeOptionKind kind, std::string* value);

@@ -1,0 +1,72 @@
+// An OS layer that delegates to the real one and fails the Nth call on demand,
+// so that every path through a file operation can be proven clean.
+#pragma once
+
+#include <string>
+
+#include "foundation/os.h"
+
+class FaultOs : public Os {
+ public:
+  // Calls are counted from 1; failAt = 0 never fails.
+  int failAt = 0;
+  int calls = 0;
+
+  bool readFile(const std::string& p, std::string* d, std::string* e) override {
+    return tick(e) && platformOs().readFile(p, d, e);
+  }
+  bool writeFile(const std::string& p, const std::string& d, std::string* e) override {
+    return tick(e) && platformOs().writeFile(p, d, e);
+  }
+  bool appendFile(const std::string& p, const std::string& d, std::string* e) override {
+    return tick(e) && platformOs().appendFile(p, d, e);
+  }
+  bool exists(const std::string& p) override { return platformOs().exists(p); }
+  bool attributes(const std::string& p, FileAttributes* o, std::string* e) override {
+    return tick(e) && platformOs().attributes(p, o, e);
+  }
+  bool setReadOnly(const std::string& p, bool r, std::string* e) override {
+    return tick(e) && platformOs().setReadOnly(p, r, e);
+  }
+  bool setModified(const std::string& p, int64_t m, std::string* e) override {
+    return tick(e) && platformOs().setModified(p, m, e);
+  }
+  bool listDirectory(const std::string& d, std::vector<DirectoryEntry>* o, std::string* e) override {
+    return tick(e) && platformOs().listDirectory(d, o, e);
+  }
+  bool makeDirectory(const std::string& p, std::string* e) override {
+    return tick(e) && platformOs().makeDirectory(p, e);
+  }
+  bool removeFile(const std::string& p, std::string* e) override { return tick(e) && platformOs().removeFile(p, e); }
+  bool removeDirectory(const std::string& p, std::string* e) override {
+    return tick(e) && platformOs().removeDirectory(p, e);
+  }
+  bool renameFile(const std::string& f, const std::string& t, std::string* e) override {
+    return tick(e) && platformOs().renameFile(f, t, e);
+  }
+  bool replaceFile(const std::string& f, const std::string& t, std::string* e) override {
+    return tick(e) && platformOs().replaceFile(f, t, e);
+  }
+  bool copyFile(const std::string& f, const std::string& t, bool x, std::string* e) override {
+    return tick(e) && platformOs().copyFile(f, t, x, e);
+  }
+  std::string currentDirectory() override { return platformOs().currentDirectory(); }
+  bool setCurrentDirectory(const std::string& p, std::string* e) override {
+    return tick(e) && platformOs().setCurrentDirectory(p, e);
+  }
+  std::string userName() override { return platformOs().userName(); }
+  SystemTime localTime() override { return platformOs().localTime(); }
+  SystemTime systemTime() override { return platformOs().systemTime(); }
+  std::string formatDate(const SystemTime& d, DateForm f, LocaleChoice l) override {
+    return platformOs().formatDate(d, f, l);
+  }
+  std::string formatTime(const SystemTime& t, LocaleChoice l) override { return platformOs().formatTime(t, l); }
+  bool openDocument(const std::string& p, std::string* e) override { return tick(e) && platformOs().openDocument(p, e); }
+
+ private:
+  bool tick(std::string* err) {
+    if (++calls != failAt) return true;
+    if (err) *err = "injected fault at call " + std::to_string(calls);
+    return false;
+  }
+};

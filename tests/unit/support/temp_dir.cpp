@@ -1,0 +1,65 @@
+// Temporary test directories through the real OS layer.
+#include "support/temp_dir.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+void removeTree(const std::string& path) {
+  Os& real = platformOs();
+  FileAttributes attributes;
+  if (!real.attributes(path, &attributes, nullptr)) return;
+  if (!attributes.isDirectory) {
+    real.setReadOnly(path, false, nullptr);
+    real.removeFile(path, nullptr);
+    return;
+  }
+  std::vector<DirectoryEntry> entries;
+  real.listDirectory(path, &entries, nullptr);
+  for (const DirectoryEntry& entry : entries) removeTree(joinPath(path, entry.name));
+  real.removeDirectory(path, nullptr);
+}
+
+std::string temporaryRoot() {
+  for (const char* name : {"TMPDIR", "TEMP", "TMP"})
+    if (const char* value = std::getenv(name); value && *value) return value;
+#ifdef _WIN32
+  return ".";
+#else
+  return "/tmp";
+#endif
+}
+
+}  // namespace
+
+TempDir::TempDir() {
+  static std::atomic<int> counter{0};
+  auto stamp = std::chrono::steady_clock::now().time_since_epoch().count();
+  path_ = joinPath(temporaryRoot(), "kesto-test-" + std::to_string(stamp) + "-" + std::to_string(counter++));
+  platformOs().makeDirectory(path_, nullptr);
+}
+
+TempDir::~TempDir() { removeTree(path_); }
+
+void TempDir::write(const std::string& relative, const std::string& data) const {
+  std::string full = file(relative);
+  std::string dir = directoryOf(full);
+  std::string walked;
+  // Create each missing folder below the temporary directory.
+  for (size_t at = path_.size() + 1; at <= dir.size(); ++at) {
+    if (at == dir.size() || dir[at] == '/' || dir[at] == kPathSeparator) {
+      walked = dir.substr(0, at);
+      if (!platformOs().exists(walked)) platformOs().makeDirectory(walked, nullptr);
+    }
+  }
+  platformOs().writeFile(full, data, nullptr);
+}
+
+std::string TempDir::read(const std::string& relative) const {
+  std::string data;
+  platformOs().readFile(file(relative), &data, nullptr);
+  return data;
+}

@@ -1,0 +1,23 @@
+// A fresh directory for one test, removed with everything in it afterwards.
+#pragma once
+
+#include <string>
+
+#include "foundation/os.h"
+
+class TempDir {
+ public:
+  TempDir();
+  ~TempDir();
+  TempDir(const TempDir&) = delete;
+  TempDir& operator=(const TempDir&) = delete;
+
+  const std::string& path() const { return path_; }
+  std::string file(const std::string& name) const { return joinPath(path_, name); }
+  // Writes a file (binary) below the directory, creating folders on the way.
+  void write(const std::string& relative, const std::string& data) const;
+  std::string read(const std::string& relative) const;
+
+ private:
+  std::string path_;
+};
