@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+"""Runs one kesto end-to-end case in a fresh temporary directory and checks
+standard output, standard error, the exit status and, optionally, files left behind.
+
+A case folder holds:
+  args      the arguments, one per line (required)
+  setup/    copied into the temporary directory, which is the working directory
+  stdin     fed to standard input (default: nothing)
+  env       extra environment, KEY=VALUE per line
+  stdout    expected standard output (default: empty)
+  stderr    expected standard error (default: empty)
+  status    expected exit status (default: 0)
+  after/    files expected in the directory afterwards, compared byte for byte
+The temporary directory's path is written @TMP@ in every expected text, and the
+settings file is @TMP@/settings.reg unless env says otherwise.
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+
+def read(path, default=b""):
+    try:
+        with open(path, "rb") as f:
+            return f.read()
+    except FileNotFoundError:
+        return default
+
+
+def main():
+    kesto, case = sys.argv[1], sys.argv[2]
+    args = [line for line in read(os.path.join(case, "args")).decode().split("\n") if line != ""]
+    failures = []
+    with tempfile.TemporaryDirectory(prefix="kesto-cli-") as tmp:
+        tmp = os.path.realpath(tmp)
+        setup = os.path.join(case, "setup")
+        if os.path.isdir(setup):
+            shutil.copytree(setup, tmp, dirs_exist_ok=True)
+        env = dict(os.environ)
+        env["KESTO_SETTINGS"] = os.path.join(tmp, "settings.reg")
+        env["LC_ALL"] = "C"
+        env.pop("LANG", None)
+        for line in read(os.path.join(case, "env")).decode().splitlines():
+            if "=" in line:
+                key, value = line.split("=", 1)
+                env[key] = value.replace("@TMP@", tmp)
+        args = [a.replace("@TMP@", tmp) for a in args]
+        result = subprocess.run([kesto] + args, cwd=tmp, env=env, input=read(os.path.join(case, "stdin")),
+                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
+
+        def check(name, actual, expected):
+            actual = actual.replace(tmp.encode(), b"@TMP@")
+            if actual != expected:
+                failures.append("%s differs\n--- expected\n%s\n--- actual\n%s" %
+                                (name, expected.decode(errors="replace"), actual.decode(errors="replace")))
+
+        check("stdout", result.stdout, read(os.path.join(case, "stdout")))
+        check("stderr", result.stderr, read(os.path.join(case, "stderr")))
+        expected_status = int(read(os.path.join(case, "status"), b"0").strip() or 0)
+        if result.returncode != expected_status:
+            failures.append("exit status %d, expected %d" % (result.returncode, expected_status))
+        after = os.path.join(case, "after")
+        for root, _, files in os.walk(after):
+            for name in files:
+                expected_path = os.path.join(root, name)
+                relative = os.path.relpath(expected_path, after)
+                check("file " + relative, read(os.path.join(tmp, relative), b"<missing>"), read(expected_path))
+    if failures:
+        print("case %s failed; to reproduce: cd into a copy of %s/setup and run %s %s" %
+              (case, case, kesto, " ".join(args)))
+        print("\n".join(failures))
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
