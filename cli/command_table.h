@@ -21,3 +21,5 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+void installKeywordsCommands(CLI::App& command, CliSession& session);
+void installCompleteCommands(CLI::App& command, CliSession& session);
