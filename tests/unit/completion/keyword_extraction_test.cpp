@@ -61,7 +61,9 @@ TEST(KeywordExtractionTest, FailureWarnsAndLeavesListAndFilesAlone) {
     if (extractAndAddKeywordFile(engine, dir.file("stack.cpp"), &keywordPath, &err)) break;
     EXPECT_FALSE(platformOs().exists(dir.file("stack.kwd"))) << "fault at call " << failAt;
   }
-  EXPECT_EQ(dir.read("stack.kwd"), "Stack\npush\n");
+  std::string written;
+  ASSERT_TRUE(os().readTextFile(dir.file("stack.kwd"), &written, nullptr));
+  EXPECT_EQ(written, "Stack\npush\n") << "written in text mode";
   EXPECT_EQ(engine.files, (std::vector<std::string>{"first.kwd", dir.file("stack.kwd")}));
   ASSERT_GE(alerts.boxes.size(), 3u);
   for (const RecordingAlerts::Box& box : alerts.boxes) {
