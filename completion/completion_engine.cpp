@@ -44,11 +44,6 @@ void CompletionEngine::load() {
   // string_view compares bytes as unsigned values, the order the searches rely on.
   std::stable_sort(keywords_.begin(), keywords_.end(),
                    [](const KeywordEntry& a, const KeywordEntry& b) { return a.keyword < b.keyword; });
-  // A name listed twice (a class and its constructor, or one name in two files)
-  // would never complete as unique: the first one in list order stands alone.
-  keywords_.erase(std::unique(keywords_.begin(), keywords_.end(),
-                              [](const KeywordEntry& a, const KeywordEntry& b) { return a.keyword == b.keyword; }),
-                  keywords_.end());
 }
 
 CompletionMatch CompletionEngine::complete(std::string_view prefix, std::string* text) {

@@ -34,8 +34,8 @@ class CompletionEngine {
   std::vector<std::string> files;  // keyword file paths, in list order
 
   // Empties the keyword list and reads every file of the list in order; a file
-  // that cannot be read is skipped. The list is then sorted by keyword bytes;
-  // of equal keywords only the first in list order is kept, with its description.
+  // that cannot be read is skipped. The list is then sorted by keyword bytes,
+  // keywords that are equal keeping their file order.
   void load();
 
   // Matches prefix against the keywords. The text is what the matches share
