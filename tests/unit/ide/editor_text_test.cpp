@@ -13,7 +13,7 @@ TEST(EditorTextTest, WordAroundTheCursorOrEndingThere) {
   EXPECT_EQ(wordAtColumn(line, 13), "obj_2");
   EXPECT_EQ(wordAtColumn(line, 16), "obj_2") << "\".\" separates";
   EXPECT_EQ(wordAtColumn(line, 10), "") << "\"=\" with a blank before";
-  EXPECT_EQ(wordAtColumn("\xe9t\xe9 x", 2), "") << "bytes above 127 separate";
+  EXPECT_EQ(wordAtColumn("\xe9t\xe9 x", 2), "t") << "bytes above 127 separate";
 }
 
 TEST(EditorTextTest, NothingOutsideTheLine) {
