@@ -135,6 +135,19 @@ TEST(AddonProcessTest, BarIsAThinTopmostPopupOverTheScreenTop) {
   }
 }
 
+TEST(AddonProcessTest, BarStaysHiddenWhenTheRegistrySaysSo) {
+  const char* key = "SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob\\TopBar";
+  HKEY topBar = nullptr;
+  ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, key, &topBar), ERROR_SUCCESS);
+  RegSetValueExA(topBar, "Enabled", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
+  DWORD exitCode = 1;
+  Report report = run(testIdeNamed("bar_hidden.exe", ""), "bar \"" + kAddon + "\"", &exitCode);
+  RegDeleteValueA(topBar, "Enabled");
+  RegCloseKey(topBar);
+  EXPECT_EQ(number(report, "bar"), 1);
+  EXPECT_EQ(number(report, "visible"), 0) << "the add-on reads its settings from the registry from the start";
+}
+
 TEST(AddonProcessTest, ModuleNameWithoutExtensionEndsTheIdeAfterTheFatalBox) {
   const std::string bare = kWork + "\\kestoaob";
   CreateDirectoryA(kWork.c_str(), nullptr);

@@ -22,6 +22,7 @@ struct HelpRequest {
 
 struct HeardRequest {
   unsigned command;
+  long data;
   std::string file;
 };
 
@@ -32,7 +33,7 @@ LRESULT CALLBACK viewerProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     const auto* data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
     const auto* request = static_cast<const HelpRequest*>(data->lpData);
     const char* file = request->fileOffset ? static_cast<const char*>(data->lpData) + request->fileOffset : "";
-    gHeard.push_back({request->command, file});
+    gHeard.push_back({request->command, request->data, file});
     return TRUE;
   }
   return DefWindowProcA(window, message, wParam, lParam);
@@ -75,7 +76,10 @@ TEST(HelpFileTest, QuitIsSentOnceAndOnlyAfterATopic) {
   delete help;
   ASSERT_EQ(gHeard.size(), 3u);
   EXPECT_EQ(gHeard[0].command, static_cast<unsigned>(HELP_CONTEXT));
+  EXPECT_EQ(gHeard[0].data, 16);
   EXPECT_EQ(gHeard[0].file, expected);
   EXPECT_EQ(gHeard[1].command, static_cast<unsigned>(HELP_CONTEXT));
+  EXPECT_EQ(gHeard[1].data, 12);
   EXPECT_EQ(gHeard[2].command, static_cast<unsigned>(HELP_QUIT));
+  EXPECT_EQ(gHeard[2].file, expected);
 }
