@@ -5,10 +5,10 @@
 //   kesto_test_ide load DLL REPORT      start and stop, answering any message box
 #include <windows.h>
 
-#include <cstdint>
 #include <cstdio>
 #include <string>
 
+#include "addon_loader.h"
 #include "ide/addon_slots_win32.h"
 #include "test_ide.h"
 
@@ -26,58 +26,6 @@ void report(const std::string& name, const std::string& value) {
 }
 
 void report(const std::string& name, long long value) { report(name, std::to_string(value)); }
-
-BOOL CALLBACK answerBox(HWND window, LPARAM) {
-  DWORD process = 0;
-  GetWindowThreadProcessId(window, &process);
-  char windowClass[16] = {};
-  GetClassNameA(window, windowClass, sizeof windowClass);
-  if (process != GetCurrentProcessId() || std::string(windowClass) != "#32770" || !IsWindowVisible(window))
-    return TRUE;
-  char caption[256] = {};
-  char text[1024] = {};
-  GetWindowTextA(window, caption, sizeof caption);
-  GetDlgItemTextA(window, 0xFFFF, text, sizeof text);
-  report("box", std::string(caption) + ": " + text);
-  PostMessageA(window, WM_COMMAND, IDOK, 0);
-  return TRUE;
-}
-
-// Answers every message box of this process, so that nothing modal can hang a test.
-DWORD WINAPI boxWatchdog(LPVOID) {
-  for (;;) {
-    Sleep(100);
-    EnumWindows(answerBox, 0);
-  }
-}
-
-using Entry = void(__stdcall*)(intptr_t);
-
-class LoadedAddon {
- public:
-  explicit LoadedAddon(const char* path) : module_(LoadLibraryA(path)) {
-    if (module_) entry_ = reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(module_, "BcwAddOnEntry")));
-    report("loaded", module_ ? 1 : 0);
-    report("entry", entry_ ? 1 : 0);
-  }
-  ~LoadedAddon() {
-    if (module_) FreeLibrary(module_);
-  }
-  LoadedAddon(const LoadedAddon&) = delete;
-  LoadedAddon& operator=(const LoadedAddon&) = delete;
-  HMODULE module() const { return module_; }
-  bool start(TestIde* ide) {
-    if (!entry_) return false;
-    ide->AddRef();  // the add-on releases it at shutdown
-    entry_(reinterpret_cast<intptr_t>(static_cast<IIdeRoot*>(ide)));
-    return true;
-  }
-  void stop() { entry_(0); }
-
- private:
-  HMODULE module_;
-  Entry entry_ = nullptr;
-};
 
 void reportBar(HMODULE module) {
   WNDCLASSA barClass = {};
@@ -122,9 +70,11 @@ int run(const std::string& mode, const char* dll) {
     report("newShell", environment.newShell);
     return 0;
   }
-  CreateThread(nullptr, 0, boxWatchdog, nullptr, 0, nullptr);
+  MessageBoxWatchdog watchdog([](const std::string& box) { report("box", box); });
   TestIde ide;
   LoadedAddon addon(dll);
+  report("loaded", addon.module() ? 1 : 0);
+  report("entry", addon.hasEntry() ? 1 : 0);
   if (!addon.start(&ide)) return 1;
   report("started", 1);
   if (mode == "bar") reportBar(addon.module());
