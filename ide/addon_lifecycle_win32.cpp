@@ -29,6 +29,7 @@ class MessageBoxAlerts : public AlertHandler {
 MessageBoxAlerts gMessageBoxAlerts;
 SettingsRegistry gRegistry;
 bool gOleStarted = false;
+bool gBarClassRegistered = false;
 HMENU gStartupMenu = nullptr;  // from its creation until the bar takes it
 
 template <typename T>
@@ -37,14 +38,24 @@ void destroy(T*& slot) {
   slot = nullptr;
 }
 
-void registerBar(IIdeRoot*) { registerBarClass(addon().environment->instance); }
+void registerBar(IIdeRoot*) { gBarClassRegistered = registerBarClass(addon().environment->instance); }
 
 void createMenu(IIdeRoot*) { gStartupMenu = createStartupMenu(); }
 
 void createBar(IIdeRoot*) {
-  addon().bar = createBarWindow(addon().environment->instance, addon().environment->newShell != 0, gStartupMenu);
+  // A class of that name that is not ours must not get our bar.
+  if (gBarClassRegistered)
+    addon().bar = createBarWindow(addon().environment->instance, addon().environment->newShell != 0, gStartupMenu);
   if (!addon().bar && gStartupMenu) DestroyMenu(gStartupMenu);
   gStartupMenu = nullptr;
+}
+
+void destroyBar(IIdeRoot*) {
+  if (addon().bar) DestroyWindow(addon().bar);
+  addon().bar = nullptr;
+  // A DLL's classes outlive it otherwise, with a window procedure that may be gone.
+  if (gBarClassRegistered) unregisterBarClass(addon().environment->instance);
+  gBarClassRegistered = false;
 }
 
 void createHelpFile(IIdeRoot*) {
@@ -123,13 +134,7 @@ const Step kShutdown[] = {
     {"delete the groupware settings", nullptr},
     {"delete the HTML settings", nullptr},
     {"delete the groupware project object", nullptr},
-    {"destroy the bar window",
-     [](IIdeRoot*) {
-       if (addon().bar) DestroyWindow(addon().bar);
-       addon().bar = nullptr;
-       // A DLL's classes outlive it otherwise, with a window procedure that may be gone.
-       unregisterBarClass(addon().environment->instance);
-     }},
+    {"destroy the bar window", destroyBar},
     {"unregister the project clients", nullptr},
     {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
     {"delete the project clients", nullptr},

@@ -4,20 +4,11 @@
 
 #include <windows.h>
 
-#include <cstdint>
-
-#include "ide/addon_startup.h"
+#include "ide/addon_environment_win32.h"
 #include "ide/ide_access_win32.h"
 #include "ide/tool_table.h"
 
 class HelpFile;
-
-// The module and the system it runs on, from the DLL's attach to its detach.
-struct AddonEnvironment {
-  HINSTANCE instance = nullptr;
-  char osDescription[kOsDescriptionBytes] = {};
-  int32_t newShell = 0;
-};
 
 struct AddonSlots {
   AddonEnvironment* environment = nullptr;
@@ -30,6 +21,3 @@ struct AddonSlots {
 };
 
 AddonSlots& addon();
-
-// Asks the system for its version and fills the environment's description and new-shell flag.
-void probeEnvironment(AddonEnvironment* environment);

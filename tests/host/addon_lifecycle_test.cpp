@@ -7,21 +7,14 @@
 #include "addon_loader.h"
 
 namespace {
-
-std::string addonPath() {
-  std::string path = KESTO_ADDON_DLL;
-  for (char& c : path)
-    if (c == '/') c = '\\';
-  return path;
-}
-
+const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 }  // namespace
 
 TEST(AddonLifecycleTest, HoldsItsServicesWhileRunningAndReturnsThemAll) {
   MessageBoxWatchdog watchdog;
   TestIde ide;
   {
-    LoadedAddon addon(addonPath());
+    LoadedAddon addon(kAddon);
     ASSERT_TRUE(addon.start(&ide));
     EXPECT_EQ(ide.references, 2) << "the IDE's own reference and the add-on's";
     EXPECT_EQ(ide.editor.references, 1);
@@ -43,7 +36,7 @@ TEST(AddonLifecycleTest, MissingOptionsServiceFailsItsAssertionAndTheAddonGoesOn
   MessageBoxWatchdog watchdog;
   TestIde ide;
   ide.withhold(ide_iid::kNodeOptions);
-  LoadedAddon addon(addonPath());
+  LoadedAddon addon(kAddon);
   ASSERT_TRUE(addon.start(&ide));
   EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Erreur: Assertion failed: svr!=NULL, file koptions, line 13"});
   EXPECT_EQ(ide.editor.references, 1) << "the other services are held";

@@ -1,6 +1,12 @@
 // Loading the add-on and answering its message boxes.
 #include "addon_loader.h"
 
+std::string windowsPath(std::string path) {
+  for (char& c : path)
+    if (c == '/') c = '\\';
+  return path;
+}
+
 LoadedAddon::LoadedAddon(const std::string& path) : module_(LoadLibraryA(path.c_str())) {
   if (module_) entry_ = reinterpret_cast<Entry>(reinterpret_cast<void*>(GetProcAddress(module_, "BcwAddOnEntry")));
 }

@@ -11,6 +11,9 @@
 
 #include "test_ide.h"
 
+// The path with every "/" turned into "\\" (the build hands paths over as "Z:/...").
+std::string windowsPath(std::string path);
+
 class LoadedAddon {
  public:
   explicit LoadedAddon(const std::string& path);

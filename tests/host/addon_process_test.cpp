@@ -8,13 +8,9 @@
 #include <map>
 #include <string>
 
-namespace {
+#include "addon_loader.h"
 
-std::string windowsPath(std::string path) {
-  for (char& c : path)
-    if (c == '/') c = '\\';
-  return path;
-}
+namespace {
 
 const std::string kTestIde = windowsPath(KESTO_TEST_IDE);
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);

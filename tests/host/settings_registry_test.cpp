@@ -6,14 +6,12 @@
 
 #include <string>
 
+#include "addon_loader.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 
 TEST(SettingsRegistryTest, ReadsTheImportedFixture) {
-  std::string fixture = KESTO_TEST_DATA_DIR "/settings/fixture.reg";
-  for (char& c : fixture)
-    if (c == '/') c = '\\';
-  std::string command = "regedit.exe /s \"" + fixture + "\"";
+  std::string command = "regedit.exe /s \"" + windowsPath(KESTO_TEST_DATA_DIR "/settings/fixture.reg") + "\"";
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process = {};

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "addon_loader.h"
-#include "ide/addon_slots_win32.h"
+#include "ide/addon_environment_win32.h"
 #include "test_ide.h"
 
 namespace {
