@@ -7,6 +7,7 @@ const std::vector<CommandGroup>& commandGroups() {
   static const std::vector<CommandGroup> groups = {
       {"settings", "Read and write the add-on's settings", installSettingsCommands},
       {"project", "Create, show and change a project file", installProjectCommands},
+      {"html", "Write the HTML documentation site of the project or of a directory", installHtmlCommands},
   };
   return groups;
 }

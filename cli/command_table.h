@@ -21,3 +21,4 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+void installHtmlCommands(CLI::App& command, CliSession& session);
