@@ -25,8 +25,16 @@ class DiskPages : public htPageSink {
   DiskPages(const std::string& siteDirectory, htGenerationResult* result) : site_(siteDirectory), result_(result) {}
 
   void onPage(const std::string& fileName, const std::string& text) override {
+    std::string path = joinPath(site_, fileName);
+    // Regenerating after each Make changes few pages: leaving the others alone
+    // spares the file system most of its work and keeps their dates.
+    std::string current;
+    if (os().readTextFile(path, &current, nullptr) && current == text) {
+      ++result_->pagesUnchanged;
+      return;
+    }
     std::string err;
-    if (os().writeTextFileAtomic(joinPath(site_, fileName), text, &err)) {
+    if (os().writeTextFileAtomic(path, text, &err)) {
       ++result_->pagesWritten;
     } else if (result_->pagesSkipped++ == 0) {
       result_->firstSkipped = err;

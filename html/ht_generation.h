@@ -21,14 +21,15 @@ bool refuseWhileHtmlGenerationRuns();
 
 struct htGenerationResult {
   size_t pagesWritten = 0;
+  size_t pagesUnchanged = 0;  // already on disk with the same bytes, left alone
   size_t pagesSkipped = 0;  // pages that could not be created
   std::string firstSkipped;  // the first of them with the system's reason
 };
 
 // The work of one generation, counted as running from start to end: builds the
 // model of directory with the filters, writes every page into the site
-// directory (created if missing, pages overwritten), frees the model. A page
-// that cannot be created is skipped. False when a consistency check stopped it.
+// directory (created if missing; pages overwritten unless they already hold the
+// same bytes), frees the model. A page that cannot be created is skipped. False when a consistency check stopped it.
 bool runHtmlGeneration(const std::string& directory, const std::string& filters, const std::string& projectName,
                        htGenerationResult* result, const htProgress& progress = nullptr);
 

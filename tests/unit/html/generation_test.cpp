@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(HtmlGeneration, WritesTheSiteUnderKHtmlAndSkipsAPageThatCannotBeCreated) {
+TEST(HtmlGeneration, WritesTheSiteUnderKHtmlSkipsAPageThatCannotBeCreatedAndLeavesSamePagesAlone) {
   TempDir dir;
   dir.write("src dir/main.cpp", "/** run Starts\n*/\nCALCUL_INT run(void)\n");
   dir.write("kHTML/Demo Contents.html", "stale");
@@ -20,6 +20,11 @@ TEST(HtmlGeneration, WritesTheSiteUnderKHtmlAndSkipsAPageThatCannotBeCreated) {
   EXPECT_EQ(7u, result.pagesWritten);
   EXPECT_NE(std::string::npos, dir.read("kHTML/Demo Contents.html").find("Fnc run 0.html"));
   EXPECT_NE(std::string::npos, dir.read("kHTML/Fnc run 0.html").find("<h3>Fonction run</h3>"));
+  htGenerationResult again;
+  ASSERT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &again));
+  EXPECT_EQ(0u, again.pagesWritten);
+  EXPECT_EQ(7u, again.pagesUnchanged);
+  EXPECT_EQ(1u, again.pagesSkipped);
   EXPECT_EQ(joinPath(joinPath(dir.path(), "kHTML"), "Documentation Demo.html"), htFramesetPath(dir.path(), "Demo"));
   EXPECT_EQ("Demo", htProjectName(joinPath("projects", "Demo.kpj")));
 }
