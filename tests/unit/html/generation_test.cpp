@@ -3,6 +3,7 @@
 
 #include "html/ht_generation.h"
 #include "support/fake_host.h"
+#include "support/fault_os.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -43,6 +44,36 @@ TEST(HtmlGeneration, ASecondGenerationWhileOneRunsIsRefused) {
   ASSERT_FALSE(alerts.boxes.empty());
   EXPECT_EQ("HTML generation in progress", alerts.boxes[0].text);
   EXPECT_EQ("Warning", alerts.boxes[0].caption);
+}
+
+TEST(HtmlGeneration, AFailureOfAnyFileOperationLeavesOnlyWholePages) {
+  FaultOs counting;
+  {
+    TempDir dir;
+    dir.write("a.cpp", "/** a Does\nmore\n*/\nCALCUL_INT a(void)\n");
+    ScopedOs scoped(counting);
+    htGenerationResult result;
+    ASSERT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
+  }
+  for (int failAt = 1; failAt <= counting.calls; ++failAt) {
+    SCOPED_TRACE(failAt);
+    TempDir dir;
+    dir.write("a.cpp", "/** a Does\nmore\n*/\nCALCUL_INT a(void)\n");
+    FaultOs faulty;
+    faulty.failAt = failAt;
+    htGenerationResult result;
+    {
+      ScopedOs scoped(faulty);
+      EXPECT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
+    }
+    std::vector<DirectoryEntry> pages;
+    platformOs().listDirectory(dir.file("kHTML"), &pages, nullptr);
+    EXPECT_EQ(result.pagesWritten, pages.size());
+    for (const DirectoryEntry& page : pages) {
+      std::string text = dir.read(joinPath("kHTML", page.name));
+      EXPECT_EQ("</html>\n", text.substr(text.size() > 8 ? text.size() - 8 : 0)) << page.name;
+    }
+  }
 }
 
 }  // namespace
