@@ -102,7 +102,8 @@ void installHtmlCommands(CLI::App& command, CliSession& session) {
       ->check(CLI::ExistingDirectory);
   command.add_option("--filters", args->filters,
                      "File patterns separated by ';' (default: the project's, or the HTML/Filters setting)");
-  command.add_option("--name", args->name, "Name that heads the site and its page names (default: the project's, or the directory's)");
+  command.add_option("--name", args->name,
+                     "Name that heads the site and its page names (default: the project's, or the directory's)");
   command.add_flag("--open", args->open, "Open the site with the desktop's opener");
   command.callback([&session, args] { generate(session, *args); });
 }
