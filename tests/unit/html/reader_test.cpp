@@ -1,4 +1,4 @@
-// Source reading and pairing cases that the golden sites do not show: line limits, zero bytes and the find-or-add kinds.
+// Source reading and pairing that the golden sites do not show: line limits, zero bytes, the find-or-add kinds.
 #include <gtest/gtest.h>
 
 #include <string>
