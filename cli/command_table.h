@@ -21,3 +21,6 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+// kesto rcgen [DIR] and kesto stamp [DIR] [--build N].
+void installRcgenCommand(CLI::App& command, CliSession& session);
+void installStampCommand(CLI::App& command, CliSession& session);
