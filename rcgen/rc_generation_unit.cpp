@@ -10,14 +10,16 @@
 
 namespace {
 
-std::vector<DirectoryEntry> scriptEntries(const std::string& directory) {
+// The "*.rc" files of a directory, matched as Windows matches them, in
+// enumeration order; names beginning with "." are left out.
+bool listScripts(const std::string& directory, std::vector<DirectoryEntry>* scripts, std::string* err) {
   std::vector<DirectoryEntry> entries;
-  std::vector<DirectoryEntry> scripts;
-  if (!os().listDirectory(directory, &entries, nullptr)) return scripts;
+  scripts->clear();
+  if (!os().listDirectory(directory, &entries, err)) return false;
   for (const DirectoryEntry& entry : entries)
     if (!entry.attributes.isDirectory && entry.name[0] != '.' && matchesMask(entry.name, "*.rc"))
-      scripts.push_back(entry);
-  return scripts;
+      scripts->push_back(entry);
+  return true;
 }
 
 bool writeOutput(const std::string& path, const std::string& text, RcRunReport* report) {
@@ -36,36 +38,41 @@ std::string rcHeaderPath(const RcUnit& unit) { return joinPath(unit.directory, "
 
 std::string rcImplementationPath(const RcUnit& unit) { return joinPath(unit.directory, "rc" + unit.name + ".cpp"); }
 
-std::vector<std::string> rcScriptsOf(const std::string& directory) {
-  std::vector<std::string> paths;
-  for (const DirectoryEntry& entry : scriptEntries(directory)) paths.push_back(joinPath(directory, entry.name));
-  return paths;
-}
-
 bool rcUnitIsOutOfDate(const RcUnit& unit) {
   FileAttributes header;
   FileAttributes implementation;
   if (!os().attributes(rcHeaderPath(unit), &header, nullptr)) return true;
   if (!os().attributes(rcImplementationPath(unit), &implementation, nullptr)) return true;
   int64_t older = std::min(header.modified, implementation.modified);
-  for (const DirectoryEntry& script : scriptEntries(unit.directory))
+  std::vector<DirectoryEntry> scripts;
+  if (!listScripts(unit.directory, &scripts, nullptr)) return true;
+  for (const DirectoryEntry& script : scripts)
     if (script.attributes.modified > older) return true;
   return false;
 }
 
-RcUnitText generateRcUnit(const RcUnit& unit) {
-  RcUnitText text;
-  emitUnitOpening(unit.name, &text);
-  for (const std::string& path : rcScriptsOf(unit.directory)) {
+bool generateRcUnit(const RcUnit& unit, RcUnitText* text, std::vector<std::string>* skipped, std::string* err) {
+  std::vector<DirectoryEntry> scripts;
+  if (!listScripts(unit.directory, &scripts, err)) return false;
+  emitUnitOpening(unit.name, text);
+  for (const DirectoryEntry& entry : scripts) {
     std::string script;
-    if (os().readFile(path, &script, nullptr)) readRcScript(script, &text);
+    std::string readError;
+    if (os().readFile(joinPath(unit.directory, entry.name), &script, &readError)) readRcScript(script, text);
+    else if (skipped) skipped->push_back(readError);
   }
-  emitUnitClosing(unit.name, &text);
-  return text;
+  emitUnitClosing(unit.name, text);
+  return true;
 }
 
 bool regenerateRcUnit(const RcUnit& unit, RcRunReport* report) {
-  RcUnitText text = generateRcUnit(unit);
+  RcUnitText text;
+  std::string err;
+  // A directory that cannot be listed keeps its files rather than lose its classes.
+  if (!generateRcUnit(unit, &text, &report->errors, &err)) {
+    report->errors.push_back(err);
+    return false;
+  }
   bool headerWritten = writeOutput(rcHeaderPath(unit), text.header, report);
   bool implementationWritten = writeOutput(rcImplementationPath(unit), text.implementation, report);
   return headerWritten && implementationWritten;

@@ -17,16 +17,16 @@ std::string rcHeaderPath(const RcUnit& unit);
 std::string rcImplementationPath(const RcUnit& unit);
 
 // The "*.rc" files of a directory (matched as Windows matches, case-insensitively),
-// in enumeration order, names beginning with "." left out. Full paths.
-std::vector<std::string> rcScriptsOf(const std::string& directory);
-
 // True when an output file is missing, or a script's status cannot be read, or
 // a script is newer than the older output file.
 bool rcUnitIsOutOfDate(const RcUnit& unit);
 
-// The two texts of the unit from its scripts as they are now; unreadable scripts are skipped.
-RcUnitText generateRcUnit(const RcUnit& unit);
+// The two texts of the unit from its scripts as they are now. A script that
+// cannot be read is skipped and named in *skipped (may be null). Fails only
+// when the directory cannot be listed.
+bool generateRcUnit(const RcUnit& unit, RcUnitText* text, std::vector<std::string>* skipped, std::string* err);
 
 // Rewrites both files whole. Written files are added to report->written and
-// failures to report->errors; returns false on a failure.
+// failures, skipped scripts included, to report->errors; returns false when a
+// file could not be written.
 bool regenerateRcUnit(const RcUnit& unit, RcRunReport* report);

@@ -6,6 +6,7 @@
 
 #include "rcgen/rc_class_emitter.h"
 #include "rcgen/rc_line_fields.h"
+#include "rcgen/rc_text_encoding.h"
 
 namespace {
 
@@ -162,7 +163,9 @@ bool readRcControl(const std::string& line, const std::vector<RcDefine>& defines
 }
 
 void readRcScript(const std::string& script, RcUnitText* unit) {
-  std::vector<std::string> lines = rcScriptLines(script);
+  std::string text;
+  decodeScript(script, &text);
+  std::vector<std::string> lines = rcScriptLines(text);
   std::vector<RcDefine> defines = readRcDefines(lines);
   std::vector<RcMenuItem> items = readRcMenuItems(lines, defines);
   emitMenuMacros(items, &unit->header);

@@ -7,7 +7,8 @@
 
 #include "rcgen/rc_script_model.h"
 
-// The script's bytes as stored; lines end in LF or CR LF. Lines that match
+// The script's bytes as stored: 8-bit, or UTF-16 with a byte-order mark; lines
+// end in LF or CR LF. Lines that match
 // nothing are skipped, so any input is accepted. Never fails.
 void readRcScript(const std::string& script, RcUnitText* unit);
 

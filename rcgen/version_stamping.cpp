@@ -9,6 +9,7 @@
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
 #include "rcgen/rc_line_fields.h"
+#include "rcgen/rc_text_encoding.h"
 
 namespace {
 
@@ -63,6 +64,14 @@ std::string findName(const std::vector<DirectoryEntry>& entries, const char* nam
   return "";
 }
 
+bool writeStamped(const std::string& path, const std::string& bytes, int32_t* buildNumber, std::string* err) {
+  std::string text;
+  ScriptEncoding encoding = decodeScript(bytes, &text);
+  std::string stamped = stampVersionText(text, buildNumber);
+  if (encoding == ScriptEncoding::Bytes) return os().writeTextFileAtomic(path, stamped, err);
+  return os().writeFileAtomic(path, encodeScript(stamped, encoding), err);
+}
+
 void stampDirectory(const std::string& directory, const std::vector<DirectoryEntry>& entries, int32_t* buildNumber,
                     RcRunReport* report) {
   std::string scriptName = findName(entries, "VERSION.RC");
@@ -74,9 +83,9 @@ void stampDirectory(const std::string& directory, const std::vector<DirectoryEnt
   std::string backup = joinPath(directory, backupName.empty() ? "VERSION.BAK" : backupName);
   if (backupName.empty()) os().renameFile(script, backup, nullptr);
 
-  std::string text;
+  std::string bytes;
   std::string err;
-  if (!os().readTextFile(backup, &text, &err) || !os().writeTextFileAtomic(script, stampVersionText(text, buildNumber), &err)) {
+  if (!os().readFile(backup, &bytes, &err) || !writeStamped(script, bytes, buildNumber, &err)) {
     report->errors.push_back(err);
     return;
   }
