@@ -7,10 +7,15 @@ std::vector<std::string> textModeLines(const std::string& text, size_t limit) {
   std::vector<std::string> lines;
   std::string line;
   for (size_t i = 0; i < text.size(); ++i) {
-    // A CR that ends a line is dropped, as text-mode reading does on Windows.
-    if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') continue;
-    line += text[i];
-    if (text[i] == '\n' || (limit != kNoLineLimit && line.size() == limit)) {
+    char c = text[i];
+    // CR LF is one line end, as text-mode reading gives it; a lone CR ends a
+    // line too, so that scripts with old Mac line ends keep their lines apart.
+    if (c == '\r') {
+      if (i + 1 < text.size() && text[i + 1] == '\n') continue;
+      c = '\n';
+    }
+    line += c;
+    if (c == '\n' || (limit != kNoLineLimit && line.size() == limit)) {
       lines.push_back(line);
       line.clear();
     }

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-// The lines of a text as a text-mode stream reads them: CR LF counts as one
-// line end, and each line keeps its "\n" (the last one may have none). With a
-// limit, a longer line comes out in pieces of at most `limit` bytes, as a
-// fixed line buffer would read it. Lone CRs are ordinary characters.
+// The lines of a text as a text-mode stream reads them: CR LF and a lone CR
+// count as one line end each, and each line keeps it as "\n" (the last line
+// may have none). With a limit, a longer line comes out in pieces of at most
+// `limit` bytes, as a fixed line buffer would read it.
 constexpr size_t kNoLineLimit = 0;
 std::vector<std::string> textModeLines(const std::string& text, size_t limit);
 

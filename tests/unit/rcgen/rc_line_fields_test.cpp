@@ -39,7 +39,7 @@ TEST(RcLineFieldsTest, MemberNamesDropAThreeLetterPrefix) {
 TEST(RcLineFieldsTest, TextModeLinesJoinCrLfAndCutAtTheLimit) {
   using Lines = std::vector<std::string>;
   EXPECT_EQ(textModeLines("a\r\nb\nc", kNoLineLimit), (Lines{"a\n", "b\n", "c"}));
-  EXPECT_EQ(textModeLines("a\rb\r", kNoLineLimit), (Lines{"a\rb\r"})) << "lone CRs end no line";
+  EXPECT_EQ(textModeLines("a\rb\r", kNoLineLimit), (Lines{"a\n", "b\n"})) << "old Mac line ends";
   EXPECT_EQ(textModeLines("abcdefg\nh", 3), (Lines{"abc", "def", "g\n", "h"}));
   EXPECT_EQ(textModeLines("", kNoLineLimit), Lines{});
 
