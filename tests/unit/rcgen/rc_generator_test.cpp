@@ -4,6 +4,7 @@
 
 #include "rcgen/rc_generator.h"
 #include "support/fault_os.h"
+#include "rcgen/text_of.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -44,10 +45,10 @@ TEST(RcGeneratorTest, FirstMakeWritesEveryUnitThenOnlyWhatChanged) {
       project.file(joinPath("src", "rcsrc.h")),               project.file(joinPath("src", "rcsrc.cpp")),
       project.file("rc.h"),                                   project.file("rc.cpp")};
   EXPECT_EQ(runWindows(project.path()), expected) << "shell files even where no script exists";
-  EXPECT_NE(project.read(joinPath("res", "rcres.h")).find("class rcD : public Dialog"), std::string::npos);
+  EXPECT_NE(textOf(project, joinPath("res", "rcres.h")).find("class rcD : public Dialog"), std::string::npos);
   EXPECT_FALSE(os().exists(project.file(joinPath(joinPath("src", "deep"), "rcdeep.h")))) << "only one level down";
-  EXPECT_EQ(project.read(joinPath("src", "rcsrc.cpp")).find("RCRCMAIN"), std::string::npos);
-  EXPECT_NE(project.read("rc.cpp").find("\nRCRCMAIN\n\n"), std::string::npos);
+  EXPECT_EQ(textOf(project, joinPath("src", "rcsrc.cpp")).find("RCRCMAIN"), std::string::npos);
+  EXPECT_NE(textOf(project, "rc.cpp").find("\nRCRCMAIN\n\n"), std::string::npos);
 
   EXPECT_EQ(runWindows(project.path()), std::vector<std::string>{}) << "nothing changed";
 
@@ -69,7 +70,7 @@ TEST(RcGeneratorTest, AFailingFileSystemGivesANamedErrorAndNoHalfWrittenFile) {
   TempDir clean;
   clean.write("a.rc", kScript);
   runWindows(clean.path());
-  const std::string expected = clean.read("rc.h");
+  const std::string expected = textOf(clean, "rc.h");
 
   for (int failAt = 1;; ++failAt) {
     TempDir project;
@@ -84,7 +85,7 @@ TEST(RcGeneratorTest, AFailingFileSystemGivesANamedErrorAndNoHalfWrittenFile) {
       generator.windowsGeneration = 1;
       generator.run(project.path(), &report);
     }
-    std::string header = project.read("rc.h");
+    std::string header = textOf(project, "rc.h");
     // A skipped script or a file left as it was is always named in an error.
     EXPECT_TRUE(header == expected || !report.errors.empty()) << "call " << failAt;
     EXPECT_TRUE(header == expected || header == "old header" || header.find("#endif") != std::string::npos);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "rcgen/version_stamping.h"
+#include "rcgen/text_of.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -65,14 +66,14 @@ TEST(VersionStampingTest, TheBackupStaysTheSourceAcrossRuns) {
   EXPECT_EQ(stampTree(project.path(), &build), std::vector<std::string>{project.file("VERSION.RC")});
   EXPECT_EQ(build, 42);
   EXPECT_EQ(project.read("VERSION.BAK"), kVersionScript);
-  EXPECT_NE(project.read("VERSION.RC").find("FILEVERSION 1, 2, 0, 42\n"), std::string::npos);
+  EXPECT_NE(textOf(project, "VERSION.RC").find("FILEVERSION 1, 2, 0, 42\n"), std::string::npos);
 
   project.write("VERSION.RC", "// edited by hand\nFILEVERSION 9,9,9,9\n");
   stampTree(project.path(), &build);
   EXPECT_EQ(build, 43);
   EXPECT_EQ(project.read("VERSION.BAK"), kVersionScript);
-  EXPECT_NE(project.read("VERSION.RC").find("FILEVERSION 1, 2, 0, 43\n"), std::string::npos);
-  EXPECT_EQ(project.read("VERSION.RC").find("edited"), std::string::npos) << "edits between runs are lost";
+  EXPECT_NE(textOf(project, "VERSION.RC").find("FILEVERSION 1, 2, 0, 43\n"), std::string::npos);
+  EXPECT_EQ(textOf(project, "VERSION.RC").find("edited"), std::string::npos) << "edits between runs are lost";
 }
 
 TEST(VersionStampingTest, SubdirectoriesComeFirstAndShareOneBuild) {
@@ -87,12 +88,12 @@ TEST(VersionStampingTest, SubdirectoriesComeFirstAndShareOneBuild) {
             (std::vector<std::string>{project.file(joinPath(joinPath("a", "deep dir"), "Version.RC")),
                                       project.file(joinPath("a", "VERSION.RC")),
                                       project.file(joinPath("b", "version.rc")), project.file("VERSION.RC")}));
-  EXPECT_EQ(project.read(joinPath(joinPath("a", "deep dir"), "Version.RC")), "FILEVERSION 3, 1, 4, 2\n");
-  EXPECT_EQ(project.read(joinPath("a", "VERSION.RC")), "FILEVERSION 3, 1, 4, 6\n");
-  EXPECT_EQ(project.read(joinPath("b", "version.rc")), "FILEVERSION 3, 1, 4, 6\n") << "read from the old backup";
+  EXPECT_EQ(textOf(project, joinPath(joinPath("a", "deep dir"), "Version.RC")), "FILEVERSION 3, 1, 4, 2\n");
+  EXPECT_EQ(textOf(project, joinPath("a", "VERSION.RC")), "FILEVERSION 3, 1, 4, 6\n");
+  EXPECT_EQ(textOf(project, joinPath("b", "version.rc")), "FILEVERSION 3, 1, 4, 6\n") << "read from the old backup";
   EXPECT_EQ(project.read(joinPath("b", "Version.Bak")), versionWithBuild(3));
   EXPECT_FALSE(os().exists(project.file(joinPath("b", "VERSION.BAK"))));
-  EXPECT_EQ(project.read("VERSION.RC"), "FILEVERSION 3, 1, 4, 6\n");
+  EXPECT_EQ(textOf(project, "VERSION.RC"), "FILEVERSION 3, 1, 4, 6\n");
 }
 
 TEST(VersionStampingTest, Utf16ScriptsKeepTheirEncoding) {
