@@ -3,6 +3,7 @@
 
 #include "rcgen/version_stamping.h"
 #include "rcgen/text_of.h"
+#include "support/fault_os.h"
 #include "support/temp_dir.h"
 
 namespace {
@@ -110,4 +111,29 @@ TEST(VersionStampingTest, Utf16ScriptsKeepTheirEncoding) {
   int32_t build = 0;
   stampTree(project.path(), &build);
   EXPECT_EQ(project.read("VERSION.RC"), utf16(u"\uFEFFFILEVERSION 1, 0, 0, 2\r\n// \u00e9\u65e5\r\n"));
+}
+
+TEST(VersionStampingTest, AFailingFileSystemNeverLosesTheFirstText) {
+  for (int failAt = 1;; ++failAt) {
+    TempDir project;
+    project.write("VERSION.RC", kVersionScript);
+    FaultOs faults;
+    faults.failAt = failAt;
+    RcRunReport report;
+    int32_t build = 0;
+    {
+      ScopedOs scoped(faults);
+      stampVersionTree(project.path(), &build, &report);
+    }
+    bool stamped = report.written.size() == 1;
+    EXPECT_NE(stamped, report.errors.size() == 1) << "stamped, or one error, at call " << failAt;
+    EXPECT_TRUE(project.read("VERSION.BAK") == kVersionScript || project.read("VERSION.RC") == kVersionScript)
+        << "call " << failAt;
+    if (stamped) {
+      EXPECT_EQ(project.read("VERSION.BAK"), kVersionScript);
+      EXPECT_NE(textOf(project, "VERSION.RC").find("1, 2, 0, 42"), std::string::npos);
+    }
+    EXPECT_FALSE(platformOs().exists(project.file("VERSION.RC.kesto-tmp")));
+    if (faults.calls < failAt) break;
+  }
 }
