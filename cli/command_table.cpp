@@ -7,6 +7,8 @@ const std::vector<CommandGroup>& commandGroups() {
   static const std::vector<CommandGroup> groups = {
       {"settings", "Read and write the add-on's settings", installSettingsCommands},
       {"project", "Create, show and change a project file", installProjectCommands},
+      {"keywords", "List the keyword files, or add, remove or extract one", installKeywordsCommands},
+      {"complete", "Complete a word, or the word before the caret of a line, from the keywords", installCompleteCommands},
       {"rcgen", "Regenerate the dialog class files of out-of-date directories", installRcgenCommand},
       {"stamp", "Raise the build number of every VERSION.RC of a tree", installStampCommand},
   };

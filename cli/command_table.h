@@ -21,6 +21,7 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
-// kesto rcgen [DIR] and kesto stamp [DIR] [--build N].
+void installKeywordsCommands(CLI::App& command, CliSession& session);
+void installCompleteCommands(CLI::App& command, CliSession& session);
 void installRcgenCommand(CLI::App& command, CliSession& session);
 void installStampCommand(CLI::App& command, CliSession& session);
