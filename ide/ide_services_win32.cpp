@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "ide/addon_slots_win32.h"
-#include "ide/editor_text.h"
+#include "completion/caret_text.h"
 
 namespace {
 
@@ -85,7 +85,7 @@ void wordAtCursor(const std::string& file, char* word) {
   long column = 0;
   long line = 0;
   session.cursor(&column, &line);
-  const std::string found = wordAtColumn(session.line(line), static_cast<int32_t>(column));
+  const std::string found = wordAtCursor(session.line(line), static_cast<int32_t>(column));
   std::memcpy(word, found.c_str(), found.size() + 1);
   if (column > 1) session.moveCursor(column, line);
 }

@@ -11,6 +11,9 @@ TEST(CaretTextTest, WordAtCursorSpansTheCaretAndIsCapped) {
   EXPECT_EQ(wordAtCursor("caf\xe9 name", 6), "name");
   std::string longWord(300, 'w');
   EXPECT_EQ(wordAtCursor(" " + longWord, 200), std::string(255, 'w'));
+  EXPECT_EQ(wordAtCursor(" " + longWord, 301), std::string(255, 'w')) << "even from its last character";
+  EXPECT_EQ(wordAtCursor("\xe9t\xe9 x", 2), "t") << "bytes above 127 separate";
+  EXPECT_EQ(wordAtCursor("abc\r\n", 4), "abc") << "a line end left in the line ends the word";
 }
 
 TEST(CaretTextTest, EditorFileNameLosesLineNumbersButKeepsTheDrive) {
