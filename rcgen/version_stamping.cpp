@@ -13,9 +13,6 @@
 
 namespace {
 
-// A link that leads back up the tree would otherwise be followed for ever.
-constexpr int kMaxDepth = 64;
-
 const char kFileVersionValue[] = "   VALUE \"FileVersion\", \"";
 
 struct Version {
@@ -92,18 +89,17 @@ void stampDirectory(const std::string& directory, const std::vector<DirectoryEnt
   report->written.push_back(script);
 }
 
-void visit(const std::string& directory, int depth, int32_t* buildNumber, RcRunReport* report) {
+// A link back up the tree ends where the system stops resolving it (too many
+// levels of links, or a path too long), which ends the walk there.
+void visit(const std::string& directory, int32_t* buildNumber, RcRunReport* report) {
   std::vector<DirectoryEntry> entries;
   std::string err;
   if (!os().listDirectory(directory, &entries, &err)) {
     report->errors.push_back(err);
     return;
   }
-  for (const DirectoryEntry& entry : entries) {
-    if (!entry.attributes.isDirectory) continue;
-    if (depth < kMaxDepth) visit(joinPath(directory, entry.name), depth + 1, buildNumber, report);
-    else report->errors.push_back(joinPath(directory, entry.name) + ": not visited, more than 64 levels deep");
-  }
+  for (const DirectoryEntry& entry : entries)
+    if (entry.attributes.isDirectory) visit(joinPath(directory, entry.name), buildNumber, report);
   stampDirectory(directory, entries, buildNumber, report);
 }
 
@@ -130,5 +126,5 @@ std::string stampVersionText(const std::string& text, int32_t* buildNumber) {
 
 void stampVersionTree(const std::string& directory, int32_t* buildNumber, RcRunReport* report) {
   if (*buildNumber < INT32_MAX) ++*buildNumber;
-  visit(directory, 0, buildNumber, report);
+  visit(directory, buildNumber, report);
 }

@@ -1,6 +1,10 @@
 // Version stamping: the line rules on one text, and runs over a tree with backups.
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
 #include "rcgen/version_stamping.h"
 #include "rcgen/text_of.h"
 #include "support/fault_os.h"
@@ -137,3 +141,16 @@ TEST(VersionStampingTest, AFailingFileSystemNeverLosesTheFirstText) {
     if (faults.calls < failAt) break;
   }
 }
+
+#ifndef _WIN32
+TEST(VersionStampingTest, ALinkBackUpTheTreeEndsTheWalk) {
+  TempDir project;
+  project.write("VERSION.RC", versionWithBuild(1));
+  ASSERT_EQ(::symlink(".", project.file("loop").c_str()), 0);
+  RcRunReport report;
+  int32_t build = 0;
+  stampVersionTree(project.path(), &build, &report);
+  EXPECT_EQ(report.written.back(), project.file("VERSION.RC"));
+  EXPECT_EQ(textOf(project, "VERSION.RC"), "FILEVERSION 3, 1, 4, 2\n");
+}
+#endif
