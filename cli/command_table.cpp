@@ -10,6 +10,8 @@ const std::vector<CommandGroup>& commandGroups() {
       {"keywords", "List the keyword files, or add, remove or extract one", installKeywordsCommands},
       {"complete", "Complete a word, or the word before the caret of a line, from the keywords", installCompleteCommands},
       {"html", "Write the HTML documentation site of the project or of a directory", installHtmlCommands},
+      {"rcgen", "Regenerate the dialog class files of out-of-date directories", installRcgenCommand},
+      {"stamp", "Raise the build number of every VERSION.RC of a tree", installStampCommand},
   };
   return groups;
 }

@@ -24,3 +24,5 @@ void installProjectCommands(CLI::App& command, CliSession& session);
 void installKeywordsCommands(CLI::App& command, CliSession& session);
 void installCompleteCommands(CLI::App& command, CliSession& session);
 void installHtmlCommands(CLI::App& command, CliSession& session);
+void installRcgenCommand(CLI::App& command, CliSession& session);
+void installStampCommand(CLI::App& command, CliSession& session);
