@@ -21,3 +21,6 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+void installTasksCommands(CLI::App& command, CliSession& session);
+void installFlashCommands(CLI::App& command, CliSession& session);
+void installMailCommands(CLI::App& command, CliSession& session);
