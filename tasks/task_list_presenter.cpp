@@ -62,14 +62,18 @@ void TaskListPresenter::refresh(bool rebuild) {
 void TaskListPresenter::refreshKeepingSelection() {
   Task* selected = taskAt(selected_);
   refresh(true);
-  int32_t row = selected ? tasks_.viewIndexOf(selected) : BasicTableau::kNotFound;
+  selectTaskOrFirstRow(selected);
+  modified_ = true;
+}
+
+void TaskListPresenter::selectTaskOrFirstRow(const Task* task) {
+  int32_t row = task ? tasks_.viewIndexOf(task) : BasicTableau::kNotFound;
   if (row != BasicTableau::kNotFound)
     selectAndShow(row);
   else if (tasks_.view.count() > 0)
     selectAndShow(0);
   else
     updateEnableState(-1, false);
-  modified_ = true;
 }
 
 void TaskListPresenter::selectAndShow(int32_t row) {
@@ -104,10 +108,7 @@ void TaskListPresenter::clearEditArea() {
 }
 
 void TaskListPresenter::selectRow(int32_t row) {
-  if (!taskAt(row)) return;
-  selected_ = row;
-  showTask(row);
-  updateEnableState(row, false);
+  if (taskAt(row)) selectAndShow(row);
 }
 
 void TaskListPresenter::setSortKey(int32_t sortKey) {
@@ -175,13 +176,7 @@ bool TaskListPresenter::apply() {
   task->start = readUserDate(edit.start);
   task->end = readUserDate(edit.end);
   refresh(true);
-  int32_t row = tasks_.viewIndexOf(task);
-  if (row != BasicTableau::kNotFound)
-    selectAndShow(row);
-  else if (tasks_.view.count() > 0)
-    selectAndShow(0);
-  else
-    updateEnableState(-1, false);
+  selectTaskOrFirstRow(task);
   if (previous != kEnded && task->state == kEnded && tasks_.mainOn && task->isPublic)
     notifyTaskEnd(*task, tasks_, mail_, host_);
   return true;

@@ -58,6 +58,8 @@ class TaskListPresenter {
  private:
   void refresh(bool rebuild);
   void refreshKeepingSelection();
+  // The task's row when it is in the view, else row 0, else no selection.
+  void selectTaskOrFirstRow(const Task* task);
   void selectAndShow(int32_t row);
   void showTask(int32_t row);
   void updateEnableState(int32_t row, bool force);

@@ -23,10 +23,7 @@ class PresenterTest : public ::testing::Test {
   PresenterTest() { host.projectPath = dir.file("demo app.kpj"); }
 
   Task* add(const char* name, int32_t state, int32_t isPublic = 0) {
-    Task* task = new Task();
-    task->name = name;
-    task->state = state;
-    task->isPublic = isPublic;
+    Task* task = makeTask(name, state, isPublic);
     list.append(task);
     return task;
   }
@@ -101,14 +98,13 @@ TEST_F(PresenterTest, EndingAPublicTaskTwiceNotifiesTwice) {
   list.keyIsDelivery = 0;
   mail.setRecipients({"ann@example.org"});
   Task* task = add("Ship \"it\"", 2, 1);
-  task->text = "All done\r\n";
   openWith(task);
   applyState(3);
   applyState(2);
   applyState(3);
   ASSERT_EQ(host.mails.size(), 2u);
   EXPECT_EQ(host.mails[1].subject, "End of task \"Ship \"it\"\" (project demo app)");
-  EXPECT_EQ(host.mails[1].note, "All done\r\n");
+  EXPECT_EQ(host.mails[1].note, "about Ship \"it\"");
   EXPECT_EQ(host.mails[1].recipients, std::vector<std::string>{"ann@example.org"});
 
   host.mailResult = MailResult::Failed;
@@ -191,9 +187,7 @@ TEST_F(PresenterTest, ApplyReadsFieldsAsTheDialogDoes) {
   EXPECT_EQ(task->start.hour, 10) << "time of day is today's";
   EXPECT_EQ(task->end.month, 13) << "no range check";
   EXPECT_EQ(task->end.year, 1901);
-  EXPECT_EQ(readUnsignedField("-5"), 0);
-  EXPECT_EQ(readUnsignedField("4294967296"), 0);
-  EXPECT_EQ(readUnsignedField("12a"), 0);
+  for (const char* unreadable : {"-5", "4294967296", "12a"}) EXPECT_EQ(readUnsignedField(unreadable), 0);
 }
 
 TEST(DateEntryTest, DayOrMonthFirstByTheUsersFormat) {
