@@ -35,9 +35,11 @@ bool TaskList::readFrom(FILE* file) {
   view.clear();
   clear();
   bool complete = types.fRead(file) != 0;
-  // A type list cut short keeps the names read before the gap.
-  for (int32_t i = types.count() - 1; i >= 0; --i)
-    if (!types[i]) types.remove(i);
+  // A type list cut short keeps the names read before the gap, dropped in one
+  // step: a damaged count can leave tens of thousands of empty slots.
+  int32_t kept = 0;
+  while (kept < types.count() && types[kept]) ++kept;
+  if (kept < types.count()) types.removeRange(kept, 0);
   int32_t stored = 0;
   if (complete && readI32(file, &stored)) {
     for (int32_t i = 0; i < stored; ++i) {
