@@ -35,7 +35,9 @@ TEST_F(FlashTest, EveryShowingWritesTheUtcDayAndKeepsOneWindow) {
   clock.local = makeDate(1996, 5, 16, 0);  // past midnight locally, still the 15th in UTC
   FlashWindow window;
   EXPECT_TRUE(window.show(marker, "first"));
-  EXPECT_EQ(dir.read("my app.kpj.fltme"), "5/15/1996\n");
+  std::string written;
+  platformOs().readTextFile(marker, &written, nullptr);
+  EXPECT_EQ(written, "5/15/1996\n");
   EXPECT_FALSE(shouldFlashAtProjectOpen(list, marker));
   EXPECT_FALSE(window.show(marker, "second"));
   EXPECT_EQ(window.text(), "second");
