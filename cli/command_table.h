@@ -21,6 +21,9 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+void installKeywordsCommands(CLI::App& command, CliSession& session);
+void installCompleteCommands(CLI::App& command, CliSession& session);
+void installHtmlCommands(CLI::App& command, CliSession& session);
 void installTasksCommands(CLI::App& command, CliSession& session);
 void installFlashCommands(CLI::App& command, CliSession& session);
 void installMailCommands(CLI::App& command, CliSession& session);
