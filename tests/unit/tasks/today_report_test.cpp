@@ -1,6 +1,10 @@
 // The view's orders and the today report of the flash.
 #include <gtest/gtest.h>
 
+#include "delivery/mail.h"
+#include "foundation/settings.h"
+#include "foundation/settings_file.h"
+#include "support/temp_dir.h"
 #include "tasks/task_clock.h"
 #include "tasks/task_list.h"
 #include "tasks/task_order.h"
@@ -83,11 +87,28 @@ TEST_F(TaskViewTest, ReportUsesTheUtcDayAndFlashStatesThenRestoresTheView) {
   EXPECT_EQ(report(0), "No task today !");
 }
 
-TEST(TaskTypesTest, SplitKeepsInnerEmptyNamesButNotTheLastOne) {
+TEST(TaskSettingsTest, TypesSplitKeepingInnerEmptyNamesAndEveryValueRoundTrips) {
   EXPECT_EQ(splitTypes("a;;b;"), (std::vector<std::string>{"a", "", "b"}));
   EXPECT_EQ(splitTypes(""), std::vector<std::string>{});
-  TaskList defaults;
-  EXPECT_EQ(joinTypes(defaults.typeNames()), "Design;Evolution;Bug;Documentation");
+  TempDir dir;
+  SettingsFile file(dir.file("settings.reg"));
+  settings().setBackend(&file);
+  TaskList saved;
+  EXPECT_EQ(joinTypes(saved.typeNames()), "Design;Evolution;Bug;Documentation");
+  saved.flashFlags[3] = 1;
+  saved.mainOn = saved.keyIsDelivery = saved.endedReadOnly = saved.autoFlash = 0;
+  saved.setTypes({"x", "", "y"});
+  saved.saveSettings();
+  Mail mail;
+  mail.control = 1;
+  mail.saveSettings();
+  TaskList loaded;
+  Mail reloaded;
+  reloaded.loadSettings();
+  settings().setBackend(nullptr);
+  EXPECT_EQ(loaded.flashFlags[3] + loaded.mainOn + loaded.keyIsDelivery + loaded.endedReadOnly + loaded.autoFlash, 1);
+  EXPECT_EQ(loaded.typeNames(), (std::vector<std::string>{"x", "", "y"}));
+  EXPECT_EQ(reloaded.control, 1);
 }
 
 }  // namespace
