@@ -2,16 +2,8 @@
 #include <memory>
 
 #include "foundation/binary_io.h"
+#include "tasks/file_handle.h"
 #include "tasks/task_list.h"
-
-namespace {
-
-struct FileCloser {
-  void operator()(FILE* file) const { std::fclose(file); }
-};
-using FileHandle = std::unique_ptr<FILE, FileCloser>;
-
-}  // namespace
 
 void TaskList::load() {
   FileHandle file(std::fopen(filePath.c_str(), "rb"));

@@ -3,26 +3,12 @@
 
 #include "foundation/alert.h"
 #include "foundation/os.h"
+#include "tasks/file_handle.h"
 #include "tasks/project_files.h"
 
 namespace {
 
 const std::string kRule(70, '-');
-
-// The notification file is appended in text mode: on Windows every line feed
-// becomes CR LF, also the one of each CR LF inside a description.
-std::string textModeLines(const std::string& text) {
-#ifdef _WIN32
-  std::string out;
-  for (char c : text) {
-    if (c == '\n') out += '\r';
-    out += c;
-  }
-  return out;
-#else
-  return text;
-#endif
-}
 
 }  // namespace
 
@@ -40,7 +26,13 @@ bool appendTaskNotification(const std::string& path, const Task& task, std::stri
   std::string text;
   if (!os().exists(path)) text += kRule + "\n  NOTIFICATIONS FOR ENDED TASKS\n";
   text += kRule + "\n*** Task : " + task.name.str() + " ***\n" + task.text.str() + "\n";
-  return os().appendFile(path, textModeLines(text), err);
+  // Text mode on purpose: on Windows every line feed becomes CR LF, also the
+  // one of each CR LF inside a description.
+  FileHandle file(std::fopen(path.c_str(), "at"));
+  bool written = file && std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
+  if (file) written = std::fclose(file.release()) == 0 && written;
+  if (!written && err) *err = "cannot append to " + path;
+  return written;
 }
 
 void notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host) {
