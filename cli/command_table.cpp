@@ -12,6 +12,9 @@ const std::vector<CommandGroup>& commandGroups() {
       {"html", "Write the HTML documentation site of the project or of a directory", installHtmlCommands},
       {"rcgen", "Regenerate the dialog class files of out-of-date directories", installRcgenCommand},
       {"stamp", "Raise the build number of every VERSION.RC of a tree", installStampCommand},
+      {"tasks", "List, add, edit, remove and sort the project's tasks; today's report", installTasksCommands},
+      {"flash", "Print today's report and mark the day as flashed", installFlashCommands},
+      {"mail", "The project's mail recipients, and a mail by hand", installMailCommands},
   };
   return groups;
 }
