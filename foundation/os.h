@@ -28,6 +28,9 @@ struct SystemTime {
 struct FileAttributes {
   bool isDirectory = false;
   bool readOnly = false;
+  // A symbolic link or junction: walks do not descend into linked directories,
+  // which could lead back up the tree.
+  bool isLink = false;
   int64_t modified = 0;  // seconds since 1970-01-01 UTC
   uint64_t size = 0;
 };
@@ -58,7 +61,8 @@ class Os {
   virtual bool attributes(const std::string& path, FileAttributes* out, std::string* err) = 0;
   virtual bool setReadOnly(const std::string& path, bool readOnly, std::string* err) = 0;
   virtual bool setModified(const std::string& path, int64_t modified, std::string* err) = 0;
-  // Entries sorted by name, case-insensitively, as the Windows file system lists them.
+  // Entries sorted by name, case-insensitively, as the Windows file system lists them;
+  // a link's attributes are those of its target, with isLink set.
   virtual bool listDirectory(const std::string& dir, std::vector<DirectoryEntry>* entries, std::string* err) = 0;
   virtual bool makeDirectory(const std::string& path, std::string* err) = 0;
   virtual bool removeFile(const std::string& path, std::string* err) = 0;
@@ -116,3 +120,8 @@ std::string joinPath(const std::string& dir, const std::string& name);
 std::string directoryOf(const std::string& path);
 // The part after the last separator.
 std::string fileNameOf(const std::string& path);
+
+// A directory that a walk of the tree descends into: not a link to one.
+inline bool isWalkableDirectory(const DirectoryEntry& entry) {
+  return entry.attributes.isDirectory && !entry.attributes.isLink;
+}

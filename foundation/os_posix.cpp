@@ -206,8 +206,12 @@ class PosixOs : public Os {
       if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0) continue;
       struct stat info;
       std::string full = joinPath(dir, entry->d_name);
-      if (::stat(full.c_str(), &info) != 0) continue;  // a dangling link is not an entry
-      entries->push_back(DirectoryEntry{entry->d_name, fromStat(info)});
+      if (::lstat(full.c_str(), &info) != 0) continue;
+      bool isLink = S_ISLNK(info.st_mode);
+      if (isLink && ::stat(full.c_str(), &info) != 0) continue;  // a dangling link is not an entry
+      DirectoryEntry listed{entry->d_name, fromStat(info)};
+      listed.attributes.isLink = isLink;
+      entries->push_back(listed);
     }
     ::closedir(handle);
     std::sort(entries->begin(), entries->end(),

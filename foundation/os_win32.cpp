@@ -71,6 +71,7 @@ FileAttributes fromFindData(const WIN32_FIND_DATAA& data) {
   FileAttributes attributes;
   attributes.isDirectory = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   attributes.readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+  attributes.isLink = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
   attributes.modified = toUnixSeconds(data.ftLastWriteTime);
   attributes.size = (static_cast<uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
   return attributes;

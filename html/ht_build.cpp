@@ -9,20 +9,15 @@
 
 namespace {
 
-// Directory links can form loops that no listing reveals; this bounds the descent.
-constexpr int kMaxDepth = 32;
-
 class SourceFinder {
  public:
-  void find(const std::string& directory, const std::string& pattern, int depth, std::vector<std::string>* out) {
+  void find(const std::string& directory, const std::string& pattern, std::vector<std::string>* out) {
     const std::vector<DirectoryEntry>& entries = listing(directory);
     for (const DirectoryEntry& entry : entries)
       if (!entry.attributes.isDirectory && entry.name[0] != '.' && matchesMask(entry.name, pattern))
         out->push_back(joinPath(directory, entry.name));
-    if (depth >= kMaxDepth) return;
     for (const DirectoryEntry& entry : entries)
-      if (entry.attributes.isDirectory && entry.name[0] != '.')
-        find(joinPath(directory, entry.name), pattern, depth + 1, out);
+      if (isWalkableDirectory(entry) && entry.name[0] != '.') find(joinPath(directory, entry.name), pattern, out);
   }
 
  private:
@@ -43,7 +38,7 @@ class SourceFinder {
 std::vector<std::string> findHtSourceFiles(const std::string& directory, const std::string& filters) {
   SourceFinder finder;
   std::vector<std::string> files;
-  for (const std::string& pattern : splitMasks(filters)) finder.find(directory, pattern, 0, &files);
+  for (const std::string& pattern : splitMasks(filters)) finder.find(directory, pattern, &files);
   return files;
 }
 

@@ -89,8 +89,6 @@ void stampDirectory(const std::string& directory, const std::vector<DirectoryEnt
   report->written.push_back(script);
 }
 
-// A link back up the tree ends where the system stops resolving it (too many
-// levels of links, or a path too long), which ends the walk there.
 void visit(const std::string& directory, int32_t* buildNumber, RcRunReport* report) {
   std::vector<DirectoryEntry> entries;
   std::string err;
@@ -99,7 +97,7 @@ void visit(const std::string& directory, int32_t* buildNumber, RcRunReport* repo
     return;
   }
   for (const DirectoryEntry& entry : entries)
-    if (entry.attributes.isDirectory) visit(joinPath(directory, entry.name), buildNumber, report);
+    if (isWalkableDirectory(entry)) visit(joinPath(directory, entry.name), buildNumber, report);
   stampDirectory(directory, entries, buildNumber, report);
 }
 
