@@ -1,0 +1,148 @@
+// kesto functions|includes|include|find|xref: the editor's navigation menus and
+// QuickFind's searches on the files of a project.
+#include <iostream>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "foundation/menu_model.h"
+#include "navigation/include_search.h"
+#include "navigation/navigation_menus.h"
+#include "navigation/quickfind.h"
+#include "navigation/source_scanner.h"
+
+namespace {
+
+struct NavigationArguments {
+  std::string file;
+  std::string name;
+  std::string from;  // the file whose project node gives the search paths
+  bool unsorted = false;
+  int32_t size = 0;  // 0: the "Menus" setting
+  bool menu = false;
+};
+
+void listFunctions(CliSession& session, const NavigationArguments& args) {
+  SourceScanner scanner;
+  if (args.unsorted) scanner.settings().sorted = false;
+  if (args.size > 0) scanner.settings().size = args.size;
+  MenuModel menu;
+  if (!scanner.functionsMenu(session.host(), args.file, &menu)) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  if (args.menu) {
+    std::cout << describeMenu(menu);
+    return;
+  }
+  const Tableau<Fnc>& functions = scanner.functions();
+  for (int32_t i = 0; i < functions.count(); ++i) {
+    const Fnc& entry = *functions[i];
+    std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
+              << '\n';
+  }
+}
+
+void listIncludes(CliSession& session, const NavigationArguments& args) {
+  SourceScanner scanner;
+  MenuModel menu;
+  if (!scanner.includesMenu(session.host(), args.file, &menu)) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  const Tableau<String>& includes = scanner.includes();
+  for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
+}
+
+void locateInclude(CliSession& session, const NavigationArguments& args) {
+  if (!session.openProject()) return;
+  std::string path;
+  if (findInclude(session.host(), args.name, args.from, &path))
+    std::cout << path << '\n';
+  else
+    session.exitStatus = kExitNothing;
+}
+
+void printHit(const std::string& file, int32_t line, const std::string& text) {
+  std::cout << file << ':' << line << ": " << text << '\n';
+}
+
+void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
+  if (!session.openProject()) return;
+  QuickFind quickFind;
+  std::string name = boundedSearchText(args.name);
+  QuickHit hit;
+  bool found = false;
+  if (command == kQuickMethod) {
+    found = quickFind.findMethods(session.host(), name, args.from);
+    const Tableau<QuickResu>& results = quickFind.methodResults();
+    for (int32_t i = 0; i < results.count(); ++i) printHit(results[i]->file(), results[i]->line(), results[i]->text());
+  } else {
+    found = command == kQuickFunction ? quickFind.findFunction(session.host(), name, args.from, &hit)
+                                      : quickFind.findClass(session.host(), name, args.from, &hit);
+    if (found) printHit(hit.file, hit.line, hit.text);
+  }
+  if (!found) session.exitStatus = kExitNothing;
+}
+
+void crossReference(CliSession& session, const NavigationArguments& args) {
+  if (!session.openProject()) return;
+  QuickFind quickFind;
+  if (!quickFind.crossReference(session.host(), boundedSearchText(args.name))) session.exitStatus = kExitNothing;
+}
+
+}  // namespace
+
+void installFunctionsCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("file", args->file, "Source file to scan")->required();
+  command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
+  command.add_option("--size", args->size, "Items per menu column (default: the Menus setting Size)")
+      ->check(CLI::PositiveNumber);
+  command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
+  command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
+  command.callback([&session, args] { listFunctions(session, *args); });
+}
+
+void installIncludesCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("file", args->file, "Source file to scan")->required();
+  command.footer("Prints ID<TAB>NAME per include.");
+  command.callback([&session, args] { listIncludes(session, *args); });
+}
+
+void installIncludeCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("name", args->name, "Include name, as written between <> or double quotes")->required();
+  command.add_option("--from", args->from, "File whose project node gives the include path");
+  command.callback([&session, args] { locateInclude(session, *args); });
+}
+
+void installFindCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.require_subcommand(1);
+  struct Kind {
+    const char* name;
+    const char* summary;
+    QuickCommand command;
+  };
+  static const Kind kinds[] = {
+      {"function", "First column-one definition of a function or method: PATH:LINE: TEXT", kQuickFunction},
+      {"method", "Every method definition of that name: PATH:LINE: Class::Name", kQuickMethod},
+      {"class", "First class declaration of that name on the include and source paths", kQuickClass},
+  };
+  for (const Kind& kind : kinds) {
+    CLI::App* sub = command.add_subcommand(kind.name, kind.summary);
+    sub->add_option("name", args->name, "Name to find")->required();
+    sub->add_option("--from", args->from, "File whose project node gives the source and include paths");
+    QuickCommand which = kind.command;
+    sub->callback([&session, args, which] { findDefinition(session, *args, which); });
+  }
+}
+
+void installXrefCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("name", args->name, "Name whose uses inside bodies are listed")->required();
+  command.footer("Prints a header line, then PATH:LINE:1: LINE per use, in the order found.");
+  command.callback([&session, args] { crossReference(session, *args); });
+}

@@ -1,0 +1,58 @@
+// The cross reference: every use of a name inside a body, into the message window.
+#include "foundation/os.h"
+#include "ide/host.h"
+#include "navigation/cross_reference.h"
+#include "navigation/line_match.h"
+#include "navigation/quickfind.h"
+#include "navigation/search_places.h"
+
+const MessageGroup& crossReferenceGroup() {
+  static const MessageGroup group{"Cross reference", "&Cross reference"};
+  return group;
+}
+
+std::string crossReferenceHeader(const std::string& mainWindowTitle, const std::string& name, const std::string& date,
+                                 const std::string& time, int32_t count) {
+  std::string header;
+  size_t dash = mainWindowTitle.find('-');
+  if (dash != std::string::npos) {
+    size_t start = mainWindowTitle.find_first_not_of(' ', dash + 1);
+    if (start != std::string::npos) header = mainWindowTitle.substr(start);
+  }
+  header += " : cross reference \"" + name + "\" " + " (" + date + " , " + time + ") : " + std::to_string(count) +
+            " found" + (count > 1 ? "s" : "");
+  return header;
+}
+
+bool QuickFind::crossReference(Host& host, const std::string& name) {
+  host.setBusy(true);
+  host.showStatus("Searching " + name + " ...");
+  crossResults_.clear();
+  // Every walk is rooted at the project directory: the source path is never reached.
+  std::vector<std::string> dirs{searchPlaces(host, "").projectDirectory};
+  walk(host, name, dirs, functionMasks(), [&](const std::string& file, std::string_view line, int32_t number) {
+    if (matchesReferenceLine(line, name)) crossResults_.append(new QuickResu(number, file, std::string(line)));
+    return true;
+  });
+  host.setBusy(false);
+  if (crossResults_.count() == 0) {
+    host.beep(220, 500);
+    host.showStatus("Sorry, nothing found !");
+    host.beep(220, 500);
+    host.showStatus("Sorry, cannot cross reference ...");
+    return false;
+  }
+  SystemTime now = os().localTime();
+  std::string header = crossReferenceHeader(host.mainWindowTitle(), name,
+                                            os().formatDate(now, DateForm::Short, LocaleChoice::System),
+                                            os().formatTime(now, LocaleChoice::System), crossResults_.count());
+  const MessageGroup& group = crossReferenceGroup();
+  Host::MessageHandle parent = host.addMessage(group, 0, header);
+  for (int32_t i = 0; i < crossResults_.count(); ++i) {
+    const QuickResu& hit = *crossResults_[i];
+    host.addLocatedMessage(group, parent, hit.text(), hit.file(), hit.line(), 1, 5);
+  }
+  host.beep(220, 500);
+  host.showStatus("References found, see Message Window");
+  return true;
+}

@@ -1,0 +1,12 @@
+// Editor text first, so that what the user sees is what is scanned.
+#include "navigation/source_text.h"
+
+#include "foundation/os.h"
+#include "ide/host.h"
+
+std::string readSourceText(Host& host, const std::string& path) {
+  std::string text;
+  if (host.editorText(path, &text)) return text;
+  if (!os().readFile(path, &text, nullptr)) text.clear();
+  return text;
+}

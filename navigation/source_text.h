@@ -1,0 +1,10 @@
+// Where every navigation scan gets a file's text.
+#pragma once
+
+#include <string>
+
+class Host;
+
+// The text of an open editor on path, unsaved changes included, else the file
+// on disk; an unreadable file reads as empty.
+std::string readSourceText(Host& host, const std::string& path);
