@@ -1,6 +1,7 @@
 // kesto functions|includes|include|find|xref: the editor's navigation menus and
 // QuickFind's searches on the files of a project.
 #include <iostream>
+#include <map>
 #include <memory>
 
 #include "cli/cli_session.h"
@@ -16,6 +17,7 @@ namespace {
 struct NavigationArguments {
   std::string file;
   std::string name;
+  std::string kind;  // find: function, method or class
   std::string from;  // the file whose project node gives the search paths
   bool unsorted = false;
   int32_t size = 0;  // 0: the "Menus" setting
@@ -120,24 +122,16 @@ void installIncludeCommand(CLI::App& command, CliSession& session) {
 
 void installFindCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<NavigationArguments>();
-  command.require_subcommand(1);
-  struct Kind {
-    const char* name;
-    const char* summary;
-    QuickCommand command;
-  };
-  static const Kind kinds[] = {
-      {"function", "First column-one definition of a function or method: PATH:LINE: TEXT", kQuickFunction},
-      {"method", "Every method definition of that name: PATH:LINE: Class::Name", kQuickMethod},
-      {"class", "First class declaration of that name on the include and source paths", kQuickClass},
-  };
-  for (const Kind& kind : kinds) {
-    CLI::App* sub = command.add_subcommand(kind.name, kind.summary);
-    sub->add_option("name", args->name, "Name to find")->required();
-    sub->add_option("--from", args->from, "File whose project node gives the source and include paths");
-    QuickCommand which = kind.command;
-    sub->callback([&session, args, which] { findDefinition(session, *args, which); });
-  }
+  static const std::map<std::string, QuickCommand> kinds = {
+      {"function", kQuickFunction}, {"method", kQuickMethod}, {"class", kQuickClass}};
+  command.add_option("kind", args->kind, "function: first definition; method: every Class::Name definition; "
+                                         "class: first class declaration on the include and source paths")
+      ->required()
+      ->check(CLI::IsMember({"function", "method", "class"}));
+  command.add_option("name", args->name, "Name to find")->required();
+  command.add_option("--from", args->from, "File whose project node gives the source and include paths");
+  command.footer("Prints PATH:LINE: TEXT: the matching line of the first hit, or Class::Name for every method.");
+  command.callback([&session, args] { findDefinition(session, *args, kinds.at(args->kind)); });
 }
 
 void installXrefCommand(CLI::App& command, CliSession& session) {
