@@ -2,7 +2,7 @@
 // side by side, the times of kesto xref and kesto find method against grep -rnw
 // and ctags -R on it, then the scanner's throughput on one large text.
 //
-//   navigation_bench --dir /tmp/navtree --megabytes 120 --kesto build-release/cli/kesto \
+//   navigation_bench --dir /tmp/navtree --megabytes 120 --kesto build-release/cli/kesto
 //                    [--grep /usr/bin/grep] [--ctags /usr/bin/ctags] [--name Paint] [--keep]
 //
 // The tree is removed afterwards unless --keep is given. Times are the best of
@@ -204,22 +204,27 @@ int main(int argc, char** argv) {
                          "[--ctags PATH] [--name NAME] [--keep]\n");
     return 2;
   }
-  if (os().exists(options.dir)) {
-    std::fprintf(stderr, "navigation_bench: %s exists; give a new directory\n", options.dir.c_str());
-    return 2;
-  }
+  // An existing tree from an earlier run with --keep is used as it stands.
   std::string largeText;
-  if (!generateTree(options, &largeText)) return 1;
+  if (os().exists(options.dir)) {
+    std::printf("tree: %s, kept from an earlier run\n", options.dir.c_str());
+    Random random(12345);
+    while (largeText.size() < 64u * 1024 * 1024) largeText += sourceFile(random, 40000, options.name, "kept.h");
+  } else if (!generateTree(options, &largeText)) {
+    return 1;
+  }
   // No project file in the tree: kesto searches the current directory. The
   // settings file is left missing so that every setting has its default.
   std::string inTree = "cd '" + options.dir + "' && KESTO_SETTINGS='" + options.dir + ".reg' ";
-  std::string quiet = " > /dev/null 2>&1";
+  // Into a file, not /dev/null: grep stops at its first match when it sees /dev/null.
+  std::string quiet = " > '" + options.dir + ".out' 2>&1";
   std::printf("times on the tree (best of 3), name %s:\n", options.name.c_str());
   timeCommand("kesto xref", inTree + "'" + options.kesto + "' xref " + options.name + quiet);
   timeCommand("grep -rnw", inTree + "'" + options.grep + "' -rnw " + options.name + " ." + quiet);
   timeCommand("kesto find method", inTree + "'" + options.kesto + "' find method " + options.name + quiet);
   timeCommand("ctags -R", inTree + "'" + options.ctags + "' -R -f '" + options.dir + ".tags' ." + quiet);
   os().removeFile(options.dir + ".tags", nullptr);
+  os().removeFile(options.dir + ".out", nullptr);
   timeScanner(largeText, options.name);
   if (!options.keep && !removeTree(options.dir)) std::fprintf(stderr, "navigation_bench: cannot remove %s\n", options.dir.c_str());
   return 0;

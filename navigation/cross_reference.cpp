@@ -5,6 +5,7 @@
 #include "navigation/line_match.h"
 #include "navigation/quickfind.h"
 #include "navigation/search_places.h"
+#include "navigation/table_fill.h"
 
 const MessageGroup& crossReferenceGroup() {
   static const MessageGroup group{"Cross reference", "&Cross reference"};
@@ -30,10 +31,12 @@ bool QuickFind::crossReference(Host& host, const std::string& name) {
   crossResults_.clear();
   // Every walk is rooted at the project directory: the source path is never reached.
   std::vector<std::string> dirs{searchPlaces(host, "").projectDirectory};
+  std::vector<std::unique_ptr<QuickResu>> hits;
   walk(host, name, dirs, functionMasks(), [&](const std::string& file, std::string_view line, int32_t number) {
-    if (matchesReferenceLine(line, name)) crossResults_.append(new QuickResu(number, file, std::string(line)));
+    if (matchesReferenceLine(line, name)) hits.push_back(std::make_unique<QuickResu>(number, file, std::string(line)));
     return true;
   });
+  appendAll(&crossResults_, &hits);
   host.setBusy(false);
   if (crossResults_.count() == 0) {
     host.beep(220, 500);

@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "navigation/table_fill.h"
 #include "navigation/text_lines.h"
 
 namespace {
@@ -58,8 +59,10 @@ void scanFunctions(std::string_view text, Tableau<Fnc>* list) {
   int32_t number = 0;
   std::string name;
   std::string className;
+  std::vector<std::unique_ptr<Fnc>> found;
   while (reader.next(&line, &number))
-    if (functionOnLine(line, &name, &className)) list->append(new Fnc(name, className, number));
+    if (functionOnLine(line, &name, &className)) found.push_back(std::make_unique<Fnc>(name, className, number));
+  appendAll(list, &found);
 }
 
 void sortFunctions(Tableau<Fnc>* list) { list->sort(compareFunctions); }

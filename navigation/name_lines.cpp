@@ -1,5 +1,5 @@
-// The name is sought with Horspool's shifts; line numbers are counted only up
-// to the lines that hold it.
+// The name is sought by its least common byte, which memchr finds far faster
+// than any byte-by-byte loop; line numbers are counted only up to the lines that hold it.
 #include "navigation/name_lines.h"
 
 #include <algorithm>
@@ -22,12 +22,42 @@ int32_t countLineEnds(const char* from, const char* to, bool newlinesOnly) {
   return count;
 }
 
+// How often a byte appears in C and C++ source, roughly: blanks and common
+// lower-case letters most, capitals, digits and bytes above 127 least.
+int commonness(unsigned char c) {
+  static const char kLetters[] = "etaoinsrhldcumfpgwybvkxjqz";
+  if (c == ' ') return 255;
+  if (c == '\t') return 200;
+  if (c >= 'a' && c <= 'z') return 250 - 8 * static_cast<int>(std::strchr(kLetters, c) - kLetters);
+  if (std::strchr("(){};,=*&.-+>", c) && c != 0) return 150;
+  if (c == '_') return 70;
+  if (c >= '0' && c <= '9') return 60;
+  if (c >= 'A' && c <= 'Z') return 40;
+  return c >= 128 ? 10 : 80;
+}
+
 }  // namespace
 
 NameLines::NameLines(std::string name) : name_(std::move(name)) {
-  size_t length = name_.size();
-  std::fill(std::begin(skip_), std::end(skip_), length);
-  for (size_t i = 0; i + 1 < length; ++i) skip_[static_cast<unsigned char>(name_[i])] = length - 1 - i;
+  for (size_t i = 1; i < name_.size(); ++i)
+    if (commonness(static_cast<unsigned char>(name_[i])) < commonness(static_cast<unsigned char>(name_[rareAt_])))
+      rareAt_ = i;
+}
+
+const char* NameLines::find(const char* from, const char* end) const {
+  const size_t length = name_.size();
+  if (static_cast<size_t>(end - from) < length) return nullptr;
+  const char rare = name_[rareAt_];
+  const char* scan = from + rareAt_;
+  const char* scanEnd = end - (length - 1 - rareAt_);
+  while (scan < scanEnd) {
+    const char* found = static_cast<const char*>(std::memchr(scan, rare, static_cast<size_t>(scanEnd - scan)));
+    if (!found) return nullptr;
+    const char* at = found - rareAt_;
+    if (std::memcmp(at, name_.data(), length) == 0) return at;
+    scan = found + 1;
+  }
+  return nullptr;
 }
 
 bool NameLines::visit(std::string_view text, const Visitor& visitor) const {
@@ -40,30 +70,20 @@ bool NameLines::visit(std::string_view text, const Visitor& visitor) const {
       if (!visitor(line, number)) return false;
     return true;
   }
+  if (text.empty()) return true;
   const char* begin = text.data();
   const char* end = begin + text.size();
-  const size_t length = name_.size();
-  const char* pattern = name_.data();
-  const unsigned char last = static_cast<unsigned char>(name_[length - 1]);
   const bool newlinesOnly =
       std::memchr(begin, '\r', text.size()) == nullptr && std::memchr(begin, '\0', text.size()) == nullptr;
 
   const char* from = begin;     // a line start: the search resumes here
   const char* counted = begin;  // a line start whose number is `number`
   int32_t number = 1;
-  while (static_cast<size_t>(end - from) >= length) {
-    const char* hit = nullptr;
-    for (const char* at = from; at + length <= end; at += skip_[static_cast<unsigned char>(at[length - 1])]) {
-      if (static_cast<unsigned char>(at[length - 1]) == last && std::memcmp(at, pattern, length - 1) == 0) {
-        hit = at;
-        break;
-      }
-    }
-    if (!hit) break;
+  while (const char* hit = find(from, end)) {
     const char* start = hit;
     while (start > from && !isLineEnd(start[-1])) --start;
     number += countLineEnds(counted, start, newlinesOnly);
-    const char* stop = hit + length;
+    const char* stop = hit + name_.size();
     while (stop < end && !isLineEnd(*stop)) ++stop;
     if (!visitor(std::string_view(start, static_cast<size_t>(stop - start)), number)) return false;
     if (stop == end) break;

@@ -26,6 +26,9 @@ class NameLines {
   bool visit(std::string_view text, const Visitor& visitor) const;
 
  private:
+  // The next occurrence of the name in [from, end), or null.
+  const char* find(const char* from, const char* end) const;
+
   std::string name_;
-  size_t skip_[256];  // Horspool shifts by the byte under the name's last position
+  size_t rareAt_ = 0;  // the position of the name's least common byte in source text
 };

@@ -10,6 +10,7 @@
 #include "navigation/navigation_menus.h"
 #include "navigation/search_places.h"
 #include "navigation/source_text.h"
+#include "navigation/table_fill.h"
 
 namespace {
 
@@ -109,10 +110,12 @@ bool QuickFind::findMethods(Host& host, const std::string& name, const std::stri
   // is walked: its walk uses up the mask list.
   std::vector<std::string> dirs{searchPlaces(host, editorFile).projectDirectory};
   std::string text;
+  std::vector<std::unique_ptr<QuickResu>> hits;
   walk(host, name, dirs, functionMasks(), [&](const std::string& file, std::string_view line, int32_t number) {
-    if (matchesMethodLine(line, name, &text)) methodResults_.append(new QuickResu(number, file, text));
+    if (matchesMethodLine(line, name, &text)) hits.push_back(std::make_unique<QuickResu>(number, file, text));
     return true;
   });
+  appendAll(&methodResults_, &hits);
   host.setBusy(false);
   return methodResults_.count() > 0 || failed(host, "Sorry, cannot find method ...");
 }
