@@ -39,11 +39,13 @@ std::vector<std::string> classDirectories(const SearchPlaces& places) {
   return resolved(places, list);
 }
 
-std::string locationText(std::string path, int32_t line) {
+// The IDE is handed upper-cased paths on Windows; other file systems keep case.
+void normalizeFoundPath(std::string* path) {
 #ifdef _WIN32
-  for (char& c : path) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  for (char& c : *path) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+#else
+  (void)path;
 #endif
-  return path + " : " + std::to_string(line);
 }
 
 bool failed(Host& host, const char* text) {
@@ -83,8 +85,10 @@ bool QuickFind::firstHit(Host& host, const std::string& name, const std::vector<
   });
   host.showStatus(status + (found ? " Found !" : " sorry !"));
   host.setBusy(false);
-  if (found) host.showStatus(locationText(hit->file, hit->line));
-  return found;
+  if (!found) return false;
+  normalizeFoundPath(&hit->file);
+  host.showStatus(hit->file + " : " + std::to_string(hit->line));
+  return true;
 }
 
 bool QuickFind::findFunction(Host& host, const std::string& name, const std::string& editorFile, QuickHit* hit) {
