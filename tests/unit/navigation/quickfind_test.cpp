@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "foundation/os.h"
+#include "foundation/settings.h"
 #include "navigation/cross_reference.h"
 #include "navigation/include_search.h"
 #include "navigation/quickfind.h"
@@ -190,4 +191,57 @@ TEST_F(QuickFindTest, IncludeSearchTriesTheProjectTreeThenTheIncludePath) {
   EXPECT_FALSE(findInclude(host, "my header.h", "other.cpp", &path)) << "the top node has no include path";
   EXPECT_EQ(std::vector<std::string>(host.statusTexts.end() - 2, host.statusTexts.end()),
             (std::vector<std::string>{"Pas trouve", "Cannot locate my header.h"}));
+}
+
+TEST_F(QuickFindTest, FailingFileCallsLoseHitsButNeverInventThem) {
+  dir.write("a.cpp", "int f(void)\n{\n  Paint();\n}\n");
+  dir.write("sub/b.c", "  Paint(1);\n");
+  dir.write("sub/deeper/c.cc", "\tPaint(2);\n");
+  openProject();
+  FaultOs counting;
+  {
+    ScopedOs scoped(counting);
+    ASSERT_TRUE(quickFind.crossReference(host, "Paint"));
+  }
+  ASSERT_EQ(quickFind.crossResults().count(), 3);
+  for (int failAt = 1; failAt <= counting.calls; ++failAt) {
+    FaultOs faulty;
+    faulty.failAt = failAt;
+    ScopedOs scoped(faulty);
+    FakeHost quiet;
+    quiet.projectPath = host.projectPath;
+    QuickFind run;
+    run.crossReference(quiet, "Paint");
+    EXPECT_LT(run.crossResults().count(), 3) << "call " << failAt << " failed and yet nothing was lost";
+    for (int32_t i = 0; i < run.crossResults().count(); ++i)
+      EXPECT_EQ(run.crossResults()[i]->text().find("Paint"), run.crossResults()[i]->text().find_first_not_of(" \t"));
+  }
+}
+
+namespace {
+
+// Remembers the order in which values are written.
+class WriteOrder : public SettingsBackend {
+ public:
+  bool read(const std::string&, const std::string&, size_t, std::string*) override { return false; }
+  bool write(const std::string&, const std::string& name, const std::string& text) override {
+    written.push_back(name + "=" + text);
+    return true;
+  }
+  bool list(const std::string&, std::vector<SettingsValue>*) override { return false; }
+  std::vector<std::string> subkeys(const std::string&) override { return {}; }
+  std::vector<std::string> written;
+};
+
+}  // namespace
+
+TEST(QuickFindSettingsTest, DefaultsAndTheOrderOfWriting) {
+  WriteOrder backend;
+  settings().setBackend(&backend);
+  QuickFindSettings::read().write();
+  settings().setBackend(nullptr);
+  EXPECT_EQ(backend.written,
+            (std::vector<std::string>{"FunctionMask=*.cpp;*.cc;*.c", "IncludeMask=*.h;*.rh", "TxtFunction=???",
+                                      "TxtMethod=???", "TxtClass=???", "TxtCross=???", "Recurse=1", "LeftSide=1",
+                                      "KeyFunction=0", "KeyMethod=0", "KeyClass=0", "KeyCross=0"}));
 }
