@@ -142,7 +142,7 @@ void timeCommand(const std::string& label, const std::string& command) {
   std::printf("  %-28s %8.3f s\n", label.c_str(), time);
 }
 
-void timeScanner(const std::string& text, const std::string& name) {
+void timeScanner(const std::string& text, const std::string& name, const char* lineEnds) {
   double megabytes = text.size() / 1048576.0;
   size_t entries = 0;
   double scan = seconds([&] {
@@ -159,9 +159,19 @@ void timeScanner(const std::string& text, const std::string& name) {
       return true;
     });
   });
-  std::printf("one text of %.1f MB in memory:\n", megabytes);
+  std::printf("one text of %.1f MB in memory, %s line ends:\n", megabytes, lineEnds);
   std::printf("  %-28s %8.0f MB/s (%zu entries)\n", "functions scan", megabytes / scan, entries);
   std::printf("  %-28s %8.0f MB/s (%zu uses)\n", "cross reference lines", megabytes / search, uses);
+}
+
+std::string withCrLf(const std::string& text) {
+  std::string out;
+  out.reserve(text.size() + text.size() / 16);
+  for (char c : text) {
+    if (c == '\n') out += '\r';
+    out += c;
+  }
+  return out;
 }
 
 bool removeTree(const std::string& dir) {
@@ -225,7 +235,8 @@ int main(int argc, char** argv) {
   timeCommand("ctags -R", inTree + "'" + options.ctags + "' -R -f '" + options.dir + ".tags' ." + quiet);
   os().removeFile(options.dir + ".tags", nullptr);
   os().removeFile(options.dir + ".out", nullptr);
-  timeScanner(largeText, options.name);
+  timeScanner(largeText, options.name, "LF");
+  timeScanner(withCrLf(largeText), options.name, "CR LF");
   if (!options.keep && !removeTree(options.dir)) std::fprintf(stderr, "navigation_bench: cannot remove %s\n", options.dir.c_str());
   return 0;
 }

@@ -2,21 +2,23 @@
 // than any byte-by-byte loop; line numbers are counted only up to the lines that hold it.
 #include "navigation/name_lines.h"
 
-#include <algorithm>
 #include <cstring>
 
 #include "navigation/text_lines.h"
 
 namespace {
 
-// Line ends in [from, to), both line starts. Texts without CR or NUL, the usual
-// case, take the plain count of LF; the others a branch-free loop that the
-// compiler vectorises as well.
+// Line ends in [from, to), both line starts, in branch-free loops that the
+// compiler vectorises. Texts without CR or NUL need only count LF.
 int32_t countLineEnds(const char* from, const char* to, bool newlinesOnly) {
-  if (newlinesOnly) return static_cast<int32_t>(std::count(from, to, '\n'));
   if (from == to) return 0;
+  int32_t count = 0;
+  if (newlinesOnly) {
+    for (const char* p = from; p < to; ++p) count += *p == '\n';
+    return count;
+  }
   // An LF just after a CR closes the CR's line; from is a line start, so no pair straddles it.
-  int32_t count = isLineEnd(*from) ? 1 : 0;
+  count = isLineEnd(*from) ? 1 : 0;
   for (const char* p = from + 1; p < to; ++p)
     count += (*p == '\r') | (*p == '\0') | ((*p == '\n') & (p[-1] != '\r'));
   return count;
