@@ -1,0 +1,109 @@
+// kesto html: writes the documentation site of the project, or of a directory.
+#include <unistd.h>
+
+#include <cstdio>
+#include <iostream>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "foundation/os.h"
+#include "foundation/settings.h"
+#include "html/ht_generation.h"
+
+namespace {
+
+struct HtmlArguments {
+  std::string directory;
+  std::string filters;
+  std::string name;
+  bool open = false;
+};
+
+// A one-line bar on standard error, redrawn only when its width of dashes changes.
+class ProgressBar {
+ public:
+  static constexpr int kWidth = 40;
+
+  void show(const char* phase, size_t done, size_t total) {
+    int filled = total == 0 ? kWidth : static_cast<int>(done * kWidth / total);
+    if (filled == lastFilled_ && phase == lastPhase_) return;
+    lastFilled_ = filled;
+    lastPhase_ = phase;
+    std::fprintf(stderr, "\r%-8s [%s%s] %zu/%zu", phase, std::string(filled, '#').c_str(),
+                 std::string(kWidth - filled, ' ').c_str(), done, total);
+    std::fflush(stderr);
+  }
+
+  ~ProgressBar() {
+    if (lastFilled_ >= 0) std::fprintf(stderr, "\r%s\r", std::string(kWidth + 40, ' ').c_str());
+  }
+
+ private:
+  int lastFilled_ = -1;
+  const char* lastPhase_ = nullptr;
+};
+
+// The name a directory goes by: its last component, that of the current directory for ".".
+std::string directoryName(std::string directory) {
+  while (directory.size() > 1 && directory.back() == kPathSeparator) directory.pop_back();
+  std::string name = fileNameOf(directory);
+  return name.empty() || name == "." ? fileNameOf(os().currentDirectory()) : name;
+}
+
+void generate(CliSession& session, const HtmlArguments& args) {
+  std::string directory = args.directory;
+  std::string filters = args.filters;
+  std::string name = args.name;
+  if (directory.empty()) {
+    if (!session.requireProject()) return;
+    directory = session.projectDirectory();
+    if (filters.empty()) filters = readProjectOptions(*session.project(), 0).htmlFilters;
+    if (name.empty()) name = htProjectName(session.project()->path());
+  } else {
+    if (filters.empty()) settings().readString("HTML", "Filters", &filters, "*.cpp;*.cc;*.c;*.h;*.rh");
+    if (name.empty()) name = directoryName(directory);
+  }
+  if (refuseWhileHtmlGenerationRuns()) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+
+  htGenerationResult result;
+  bool finished = false;
+  {
+    std::unique_ptr<ProgressBar> bar(isatty(STDERR_FILENO) ? new ProgressBar : nullptr);
+    htProgress progress;
+    if (bar) progress = [&bar](const char* phase, size_t done, size_t total) { bar->show(phase, done, total); };
+    finished = runHtmlGeneration(directory, filters, name, &result, progress);
+  }
+  if (!finished) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  if (result.pagesSkipped > 0) {
+    reportError(std::to_string(result.pagesSkipped) + " page(s) could not be written, the first: " +
+                result.firstSkipped);
+    session.exitStatus = kExitNothing;
+  }
+  std::cout << htFramesetPath(directory, name) << '\n';
+  std::string err;
+  if (args.open && !openHtmlDocumentation(directory, name, &err)) {
+    reportError(err);
+    session.exitStatus = kExitNothing;
+  }
+}
+
+}  // namespace
+
+void installHtmlCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<HtmlArguments>();
+  command.add_option("--dir", args->directory, "Document this directory instead of the project's")
+      ->check(CLI::ExistingDirectory);
+  command.add_option("--filters", args->filters,
+                     "File patterns separated by ';' (default: the project's, or the HTML/Filters setting)");
+  command.add_option("--name", args->name,
+                     "Name that heads the site and its page names (default: the project's, or the directory's)");
+  command.add_flag("--open", args->open, "Open the site with the desktop's opener");
+  command.callback([&session, args] { generate(session, *args); });
+}

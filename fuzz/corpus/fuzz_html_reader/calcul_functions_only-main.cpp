@@ -1,0 +1,6 @@
+int main(int argc)
+CALCUL_INT compute(int n)
+void f(NS::Type &x)
+void g(::Type &x)
+CALCUL_VOID spaced (void)
+CALCUL_INT Shape::area(void)

@@ -1,0 +1,1 @@
+CALCUL_INT other(int n)

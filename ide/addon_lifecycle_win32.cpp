@@ -1,0 +1,175 @@
+// The add-on's start and shutdown. Each path is one table of steps, run in
+// order; a step whose feature has not been built yet keeps its place with no
+// action, so that the feature slots in where it belongs.
+#include "ide/addon_lifecycle_win32.h"
+
+#include <new>
+
+#include "foundation/alert.h"
+#include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
+#include "ide/addon_slots_win32.h"
+#include "ide/bar_window_win32.h"
+#include "ide/help_file_win32.h"
+
+namespace {
+
+struct Step {
+  const char* what;
+  void (*run)(IIdeRoot* ide);  // null: the feature is still to come
+};
+
+class MessageBoxAlerts : public AlertHandler {
+ public:
+  int show(const std::string& text, const std::string& caption, unsigned style) override {
+    return MessageBoxA(nullptr, text.c_str(), caption.c_str(), style);
+  }
+};
+
+MessageBoxAlerts gMessageBoxAlerts;
+SettingsRegistry gRegistry;
+bool gOleStarted = false;
+bool gBarClassRegistered = false;
+HMENU gStartupMenu = nullptr;  // from its creation until the bar takes it
+
+template <typename T>
+void destroy(T*& slot) {
+  delete slot;
+  slot = nullptr;
+}
+
+void registerBar(IIdeRoot*) { gBarClassRegistered = registerBarClass(addon().environment->instance); }
+
+void createMenu(IIdeRoot*) { gStartupMenu = createStartupMenu(); }
+
+void createBar(IIdeRoot*) {
+  // A class of that name that is not ours must not get our bar.
+  if (gBarClassRegistered)
+    addon().bar = createBarWindow(addon().environment->instance, addon().environment->newShell != 0, gStartupMenu);
+  if (!addon().bar && gStartupMenu) DestroyMenu(gStartupMenu);
+  gStartupMenu = nullptr;
+}
+
+void destroyBar(IIdeRoot*) {
+  if (addon().bar) DestroyWindow(addon().bar);
+  addon().bar = nullptr;
+  // A DLL's classes outlive it otherwise, with a window procedure that may be gone.
+  if (gBarClassRegistered) unregisterBarClass(addon().environment->instance);
+  gBarClassRegistered = false;
+}
+
+void createHelpFile(IIdeRoot*) {
+  addon().helpFile = new (std::nothrow) HelpFile(addon().environment->instance, addon().bar);
+}
+
+void createEditorHolder(IIdeRoot*) {
+  addon().editor = new (std::nothrow) ServiceHolder<IIdeEditor>(ide_iid::kEditor);
+}
+
+void createStatusLineHolder(IIdeRoot*) {
+  addon().statusLine = new (std::nothrow) ServiceHolder<IIdeStatusLine>(ide_iid::kStatusLine);
+}
+
+void createToolTable(IIdeRoot*) {
+  addon().tools = new (std::nothrow) Tableau<Tool>();
+  if (addon().tools) fillToolTable(addon().tools);
+}
+
+void showBar(IIdeRoot*) {
+  // Stands in for the top bar settings object until it exists: same key, same default.
+  const bool visible = settings().readInteger("TopBar", "Enabled", 1) != 0;
+  ShowWindow(addon().bar, visible ? SW_SHOW : SW_HIDE);
+}
+
+void createOptionsHolder(IIdeRoot*) {
+  addon().options = new (std::nothrow) ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions);
+  if (addon().options && !addon().options->get())
+    alert("Assertion failed: svr!=NULL, file koptions, line 13", "Erreur", kAlertIconHand);
+}
+
+const Step kInitialisation[] = {
+    {"store the IDE pointer", [](IIdeRoot* ide) { storeIdePointer(ide); }},
+    {"probe the environment", [](IIdeRoot*) { probeEnvironment(addon().environment); }},
+    {"register the bar's window class", registerBar},
+    {"create the start-up menu", createMenu},
+    {"create the bar window", createBar},
+    {"create QuickFind, given the bar", nullptr},
+    {"create the help file, given the bar", createHelpFile},
+    {"create the editor navigation, given the bar and the new-shell flag", nullptr},
+    {"create the top bar settings, given the new-shell flag and the bar", nullptr},
+    {"create the completion engine", nullptr},
+    {"create the general behaviours", nullptr},
+    {"create the delivery object", nullptr},
+    {"hold the editor service", createEditorHolder},
+    {"hold the status line service", createStatusLineHolder},
+    {"fill the tool table", createToolTable},
+    {"show or hide the bar", showBar},
+    {"install the hooks, given the bar", nullptr},
+    {"create and register the project clients", nullptr},
+    {"create and register the delivery tool", nullptr},
+    {"load the recent-file lists", nullptr},
+    {"hold the options service", createOptionsHolder},
+    {"create the mail options", nullptr},
+    {"create the task manager", nullptr},
+    {"create the groupware settings", nullptr},
+    {"create the HTML settings", nullptr},
+    {"create the groupware project object, given the project service", nullptr},
+};
+
+const Step kShutdown[] = {
+    {"save the recent-file lists", nullptr},
+    {"delete the mail options", nullptr},
+    {"delete QuickFind", nullptr},
+    {"delete the delivery object", nullptr},
+    {"delete the hooks", nullptr},
+    {"delete the help file", [](IIdeRoot*) { destroy(addon().helpFile); }},
+    {"delete the editor navigation", nullptr},
+    {"delete the top bar settings", nullptr},
+    {"delete the completion engine", nullptr},
+    {"release the editor service", [](IIdeRoot*) { destroy(addon().editor); }},
+    {"delete the general behaviours", nullptr},
+    {"release the status line service", [](IIdeRoot*) { destroy(addon().statusLine); }},
+    {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
+    {"save the tasks and delete the task manager", nullptr},
+    {"delete the groupware settings", nullptr},
+    {"delete the HTML settings", nullptr},
+    {"delete the groupware project object", nullptr},
+    {"destroy the bar window", destroyBar},
+    {"unregister the project clients", nullptr},
+    {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
+    {"delete the project clients", nullptr},
+    {"release the IDE pointer", [](IIdeRoot*) { releaseIdePointer(); }},
+};
+
+template <size_t n>
+void run(const Step (&steps)[n], IIdeRoot* ide) {
+  for (const Step& step : steps)
+    if (step.run) step.run(ide);
+}
+
+}  // namespace
+
+bool attachAddon(HINSTANCE instance) {
+  addon().environment = new (std::nothrow) AddonEnvironment();
+  if (!addon().environment) return false;
+  settings().setRoot(SettingsStore::kAddOnRoot);
+  settings().setBackend(&gRegistry);
+  setAlertHandler(&gMessageBoxAlerts);
+  addon().environment->instance = instance;
+  probeEnvironment(addon().environment);
+  if (FAILED(OleInitialize(nullptr))) return false;
+  gOleStarted = true;
+  return true;
+}
+
+void detachAddon() {
+  destroy(addon().environment);
+  setAlertHandler(nullptr);
+  settings().setBackend(nullptr);
+  if (gOleStarted) OleUninitialize();
+  gOleStarted = false;
+}
+
+void initialiseAddon(IIdeRoot* ide) { run(kInitialisation, ide); }
+
+void shutDownAddon() { run(kShutdown, nullptr); }

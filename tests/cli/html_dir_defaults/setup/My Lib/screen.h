@@ -1,0 +1,1 @@
+#define IGNORED 1

@@ -1,0 +1,1 @@
+#define WIDTH 80

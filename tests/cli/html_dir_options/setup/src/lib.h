@@ -1,0 +1,1 @@
+#define LIB_VERSION 3

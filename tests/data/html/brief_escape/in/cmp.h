@@ -1,0 +1,3 @@
+/** less True when a < b
+*/
+CALCUL_BOOL less(int a, int b)

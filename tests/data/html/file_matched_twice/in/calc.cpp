@@ -1,0 +1,3 @@
+/** compute Adds one
+*/
+CALCUL_INT compute(int n)

@@ -1,0 +1,57 @@
+// Loading the add-on as the IDE does, and answering the message boxes it shows,
+// for the test IDE program and for tests that host the add-on themselves.
+#pragma once
+
+#include <windows.h>
+
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "test_ide.h"
+
+// The path with every "/" turned into "\\" (the build hands paths over as "Z:/...").
+std::string windowsPath(std::string path);
+
+class LoadedAddon {
+ public:
+  explicit LoadedAddon(const std::string& path);
+  ~LoadedAddon();
+  LoadedAddon(const LoadedAddon&) = delete;
+  LoadedAddon& operator=(const LoadedAddon&) = delete;
+
+  HMODULE module() const { return module_; }
+  bool hasEntry() const { return entry_ != nullptr; }
+  // The IDE's first call, with a reference of its root for the add-on to release.
+  bool start(TestIde* ide);
+  // The IDE's last call.
+  void stop();
+
+ private:
+  using Entry = void(__stdcall*)(intptr_t);
+  HMODULE module_;
+  Entry entry_ = nullptr;
+};
+
+// Answers every message box of this process with its default button, from a
+// thread of its own, so that nothing modal can hang a test; each box is
+// recorded (and passed to onBox) as "CAPTION: TEXT".
+class MessageBoxWatchdog {
+ public:
+  using BoxListener = void (*)(const std::string& box);
+  explicit MessageBoxWatchdog(BoxListener onBox = nullptr);
+  ~MessageBoxWatchdog();
+  MessageBoxWatchdog(const MessageBoxWatchdog&) = delete;
+  MessageBoxWatchdog& operator=(const MessageBoxWatchdog&) = delete;
+
+  std::vector<std::string> boxes();
+
+ private:
+  static BOOL CALLBACK answer(HWND window, LPARAM self);
+  BoxListener onBox_;
+  std::mutex mutex_;
+  std::vector<std::string> boxes_;
+  bool stopping_ = false;
+  std::thread thread_;
+};

@@ -1,0 +1,158 @@
+// The add-on in a test IDE process of its own: the system it sees, the bar it
+// creates, a clean start and stop, and the refusal to run without a help file name.
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <fstream>
+#include <map>
+#include <string>
+
+#include "addon_loader.h"
+
+namespace {
+
+const std::string kTestIde = windowsPath(KESTO_TEST_IDE);
+const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
+const std::string kWork = windowsPath(KESTO_HOST_WORK_DIR);
+
+using Report = std::map<std::string, std::string>;
+
+// A copy of the test IDE named program, which the system answers as `version`
+// (a Wine application default: "win95", "nt40", "nt351"; empty for the default).
+std::string testIdeNamed(const std::string& program, const std::string& version) {
+  CreateDirectoryA(kWork.c_str(), nullptr);
+  const std::string copy = kWork + "\\" + program;
+  EXPECT_TRUE(CopyFileA(kTestIde.c_str(), copy.c_str(), FALSE)) << copy;
+  const std::string key = "Software\\Wine\\AppDefaults\\" + program;
+  if (version.empty()) {
+    RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+  } else {
+    HKEY appKey = nullptr;
+    EXPECT_EQ(RegCreateKeyA(HKEY_CURRENT_USER, key.c_str(), &appKey), ERROR_SUCCESS);
+    RegSetValueExA(appKey, "Version", 0, REG_SZ, reinterpret_cast<const BYTE*>(version.c_str()),
+                   static_cast<DWORD>(version.size() + 1));
+    RegCloseKey(appKey);
+  }
+  return copy;
+}
+
+// Runs the program with the arguments and a report file; the report's lines by name.
+Report run(const std::string& program, const std::string& arguments, DWORD* exitCode) {
+  const std::string reportPath = program + ".report";
+  DeleteFileA(reportPath.c_str());
+  std::string commandLine = "\"" + program + "\" " + arguments + " \"" + reportPath + "\"";
+  STARTUPINFOA startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  Report lines;
+  if (!CreateProcessA(nullptr, &commandLine[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process)) {
+    ADD_FAILURE() << "cannot start " << commandLine;
+    return lines;
+  }
+  EXPECT_EQ(WaitForSingleObject(process.hProcess, 60000), WAIT_OBJECT_0) << commandLine << " hangs";
+  GetExitCodeProcess(process.hProcess, exitCode);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  std::ifstream file(reportPath);
+  for (std::string line; std::getline(file, line);) {
+    const size_t equals = line.find('=');
+    if (equals != std::string::npos) lines[line.substr(0, equals)] += line.substr(equals + 1);
+  }
+  return lines;
+}
+
+long long number(const Report& report, const std::string& name) {
+  auto found = report.find(name);
+  return found == report.end() ? -99999 : std::stoll(found->second);
+}
+
+}  // namespace
+
+TEST(AddonProcessTest, ProbeDescribesEachSystemAndItsShell) {
+  struct Case {
+    const char* version;
+    const char* os;
+    const char* newShell;
+  };
+  const Case cases[] = {
+      {"win95", "Windows 95 (4.0)", "1"},
+      {"nt40", "Windows NT 4.0", "1"},
+      {"nt351", "Windows NT 3.51", "0"},
+  };
+  for (const Case& c : cases) {
+    DWORD exitCode = 1;
+    Report report = run(testIdeNamed(std::string("probe_") + c.version + ".exe", c.version), "probe", &exitCode);
+    EXPECT_EQ(exitCode, 0u);
+    EXPECT_EQ(report["os"], c.os) << c.version;
+    EXPECT_EQ(report["newShell"], c.newShell) << c.version;
+  }
+}
+
+TEST(AddonProcessTest, BarIsAThinTopmostPopupOverTheScreenTop) {
+  for (const char* version : {"nt40", "nt351"}) {
+    const bool newShell = std::string(version) == "nt40";
+    SCOPED_TRACE(version);
+    DWORD exitCode = 1;
+    Report report = run(testIdeNamed(std::string("bar_") + version + ".exe", version), "bar \"" + kAddon + "\"",
+                        &exitCode);
+    EXPECT_EQ(exitCode, 0u);
+    ASSERT_EQ(number(report, "bar"), 1) << "no KADO window";
+    EXPECT_EQ(number(report, "classStyle"), CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS);
+    EXPECT_EQ(number(report, "blackBrush"), 1);
+    EXPECT_EQ(number(report, "cursor") + number(report, "icon") + number(report, "menuName"), 0);
+    EXPECT_EQ(report["title"], "");
+    EXPECT_EQ(number(report, "owner"), 0);
+
+    const long long style = number(report, "style");
+    EXPECT_TRUE(style & WS_POPUP);
+    EXPECT_TRUE(style & WS_BORDER);
+    EXPECT_EQ((style & WS_DLGFRAME) != 0, !newShell) << "a caption only in the older look";
+    const long long exStyle = number(report, "exStyle");
+    EXPECT_TRUE(exStyle & WS_EX_TOPMOST);
+    EXPECT_EQ((exStyle & WS_EX_TOOLWINDOW) != 0, newShell);
+    EXPECT_EQ(number(report, "visible"), 1) << "shown: no setting hides it";
+
+    const long long menuHeight = number(report, "menuHeight");
+    EXPECT_EQ(number(report, "x"), -1);
+    EXPECT_EQ(number(report, "width"), number(report, "screenWidth") + 2);
+    EXPECT_EQ(number(report, "y"), newShell ? -2 : -2 - menuHeight);
+    EXPECT_EQ(number(report, "height"), newShell ? menuHeight + 1 : menuHeight + number(report, "captionHeight") + 1);
+
+    EXPECT_EQ(number(report, "menuItems"), 1);
+    EXPECT_EQ(report["menuItem99"], "Kesto Addon for Borland C++ 5.0 initializing...");
+
+    EXPECT_EQ(number(report, "stopped"), 1);
+    EXPECT_EQ(number(report, "barAfterStop"), 0);
+    EXPECT_EQ(number(report, "classAfterStop"), 0) << "the class goes with the add-on";
+    EXPECT_EQ(number(report, "referencesHeld"), 0) << "every service and the IDE pointer released";
+    EXPECT_EQ(number(report, "liveStrings"), 0) << "every IDE string released";
+    EXPECT_EQ(report.count("box"), 0u) << report["box"];
+  }
+}
+
+TEST(AddonProcessTest, BarStaysHiddenWhenTheRegistrySaysSo) {
+  const char* key = "SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob\\TopBar";
+  HKEY topBar = nullptr;
+  ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, key, &topBar), ERROR_SUCCESS);
+  RegSetValueExA(topBar, "Enabled", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
+  DWORD exitCode = 1;
+  Report report = run(testIdeNamed("bar_hidden.exe", ""), "bar \"" + kAddon + "\"", &exitCode);
+  RegDeleteValueA(topBar, "Enabled");
+  RegCloseKey(topBar);
+  EXPECT_EQ(number(report, "bar"), 1);
+  EXPECT_EQ(number(report, "visible"), 0) << "the add-on reads its settings from the registry from the start";
+}
+
+TEST(AddonProcessTest, ModuleNameWithoutExtensionEndsTheIdeAfterTheFatalBox) {
+  const std::string bare = kWork + "\\kestoaob";
+  CreateDirectoryA(kWork.c_str(), nullptr);
+  ASSERT_TRUE(CopyFileA(kAddon.c_str(), bare.c_str(), FALSE));
+  DWORD exitCode = 1;
+  // The trailing dot keeps the loader from adding ".dll" to the name.
+  Report report = run(testIdeNamed("fatal.exe", ""), "load \"" + bare + ".\"", &exitCode);
+  EXPECT_EQ(number(report, "loaded"), 1);
+  EXPECT_EQ(report["box"], "Fatal: You can't use Kesto AddOn for Borland C++ 5.0\\nwithout its helpfile !");
+  EXPECT_EQ(report.count("started"), 0u) << "the IDE never came back from the entry";
+  EXPECT_EQ(exitCode, 0u);
+}

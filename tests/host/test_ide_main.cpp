@@ -1,0 +1,104 @@
+// The test IDE as a program: loads the add-on, starts and stops it, and writes
+// what it saw as "name=value" lines to a report file. One run per scenario:
+//   kesto_test_ide probe REPORT         the add-on's view of the system
+//   kesto_test_ide bar DLL REPORT       the bar window the add-on creates
+//   kesto_test_ide load DLL REPORT      start and stop, answering any message box
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+#include "addon_loader.h"
+#include "ide/addon_environment_win32.h"
+#include "test_ide.h"
+
+namespace {
+
+FILE* gReport = nullptr;
+
+// Each line is flushed: the add-on may end the process at any time. A line end
+// inside the value is written as "\n" so that each value keeps one line.
+void report(const std::string& name, const std::string& value) {
+  std::string line = name + "=";
+  for (char c : value) line += c == '\n' ? std::string("\\n") : std::string(1, c);
+  std::fprintf(gReport, "%s\n", line.c_str());
+  std::fflush(gReport);
+}
+
+void report(const std::string& name, long long value) { report(name, std::to_string(value)); }
+
+void reportBar(HMODULE module) {
+  WNDCLASSA barClass = {};
+  report("class", GetClassInfoA(module, "KADO", &barClass) ? 1 : 0);
+  report("classStyle", barClass.style);
+  report("blackBrush", barClass.hbrBackground == GetStockObject(BLACK_BRUSH) ? 1 : 0);
+  report("cursor", barClass.hCursor ? 1 : 0);
+  report("icon", barClass.hIcon ? 1 : 0);
+  report("menuName", barClass.lpszMenuName ? 1 : 0);
+
+  HWND bar = FindWindowA("KADO", nullptr);
+  report("bar", bar ? 1 : 0);
+  if (!bar) return;
+  char title[64] = {};
+  GetWindowTextA(bar, title, sizeof title);
+  report("title", title);
+  report("owner", GetWindow(bar, GW_OWNER) ? 1 : 0);
+  report("style", static_cast<long long>(GetWindowLongA(bar, GWL_STYLE) & 0xFFFFFFFFll));
+  report("exStyle", static_cast<long long>(GetWindowLongA(bar, GWL_EXSTYLE) & 0xFFFFFFFFll));
+  report("visible", IsWindowVisible(bar) ? 1 : 0);
+  RECT place = {};
+  GetWindowRect(bar, &place);
+  report("x", place.left);
+  report("y", place.top);
+  report("width", place.right - place.left);
+  report("height", place.bottom - place.top);
+  report("screenWidth", GetSystemMetrics(SM_CXSCREEN));
+  report("menuHeight", GetSystemMetrics(SM_CYMENU));
+  report("captionHeight", GetSystemMetrics(SM_CYCAPTION));
+  HMENU menu = GetMenu(bar);
+  char item[128] = {};
+  if (menu) GetMenuStringA(menu, 99, item, sizeof item, MF_BYCOMMAND);
+  report("menuItems", menu ? GetMenuItemCount(menu) : -1);
+  report("menuItem99", item);
+}
+
+int run(const std::string& mode, const char* dll) {
+  if (mode == "probe") {
+    AddonEnvironment environment;
+    probeEnvironment(&environment);
+    report("os", environment.osDescription);
+    report("newShell", environment.newShell);
+    return 0;
+  }
+  MessageBoxWatchdog watchdog([](const std::string& box) { report("box", box); });
+  TestIde ide;
+  LoadedAddon addon(dll);
+  report("loaded", addon.module() ? 1 : 0);
+  report("entry", addon.hasEntry() ? 1 : 0);
+  if (!addon.start(&ide)) return 1;
+  report("started", 1);
+  if (mode == "bar") reportBar(addon.module());
+  addon.stop();
+  report("stopped", 1);
+  report("barAfterStop", FindWindowA("KADO", nullptr) ? 1 : 0);
+  WNDCLASSA barClass = {};
+  report("classAfterStop", GetClassInfoA(addon.module(), "KADO", &barClass) ? 1 : 0);
+  report("referencesHeld", ide.referencesHeld());
+  report("liveStrings", TestIde::liveStrings);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const bool probe = argc == 3 && std::string(argv[1]) == "probe";
+  if (!probe && argc != 4) {
+    std::fprintf(stderr, "usage: kesto_test_ide probe REPORT | bar DLL REPORT | load DLL REPORT\n");
+    return 2;
+  }
+  gReport = std::fopen(argv[argc - 1], "w");
+  if (!gReport) return 2;
+  const int status = run(argv[1], probe ? nullptr : argv[2]);
+  std::fclose(gReport);
+  return status;
+}
