@@ -1,7 +1,8 @@
 // The cross reference: every use of a name inside a body, into the message window.
+#include "navigation/cross_reference.h"
+
 #include "foundation/os.h"
 #include "ide/host.h"
-#include "navigation/cross_reference.h"
 #include "navigation/line_match.h"
 #include "navigation/quickfind.h"
 #include "navigation/search_places.h"
