@@ -6,7 +6,6 @@
 #include "navigation/line_match.h"
 #include "navigation/quickfind.h"
 #include "navigation/search_places.h"
-#include "navigation/table_fill.h"
 
 const MessageGroup& crossReferenceGroup() {
   static const MessageGroup group{"Cross reference", "&Cross reference"};
@@ -29,17 +28,16 @@ std::string crossReferenceHeader(const std::string& mainWindowTitle, const std::
 bool QuickFind::crossReference(Host& host, const std::string& name) {
   host.setBusy(true);
   host.showStatus("Searching " + name + " ...");
-  crossResults_.clear();
+  crossHits_.clear();
+  crossResultsBuilt_ = false;
   // Every walk is rooted at the project directory: the source path is never reached.
   std::vector<std::string> dirs{searchPlaces(host, "").projectDirectory};
-  std::vector<std::unique_ptr<QuickResu>> hits;
   walk(host, name, dirs, functionMasks(), [&](const std::string& file, std::string_view line, int32_t number) {
-    if (matchesReferenceLine(line, name)) hits.push_back(std::make_unique<QuickResu>(number, file, std::string(line)));
+    if (matchesReferenceLine(line, name)) crossHits_.add(file, number, line);
     return true;
   });
-  appendAll(&crossResults_, &hits);
   host.setBusy(false);
-  if (crossResults_.count() == 0) {
+  if (crossHits_.size() == 0) {
     host.beep(220, 500);
     host.showStatus("Sorry, nothing found !");
     host.beep(220, 500);
@@ -49,14 +47,24 @@ bool QuickFind::crossReference(Host& host, const std::string& name) {
   SystemTime now = os().localTime();
   std::string header = crossReferenceHeader(host.mainWindowTitle(), name,
                                             os().formatDate(now, DateForm::Short, LocaleChoice::System),
-                                            os().formatTime(now, LocaleChoice::System), crossResults_.count());
+                                            os().formatTime(now, LocaleChoice::System),
+                                            static_cast<int32_t>(crossHits_.size()));
   const MessageGroup& group = crossReferenceGroup();
   Host::MessageHandle parent = host.addMessage(group, 0, header);
-  for (int32_t i = 0; i < crossResults_.count(); ++i) {
-    const QuickResu& hit = *crossResults_[i];
-    host.addLocatedMessage(group, parent, hit.text(), hit.file(), hit.line(), 1, 5);
+  std::string text;
+  for (size_t i = 0; i < crossHits_.size(); ++i) {
+    text.assign(crossHits_.text(i));
+    host.addLocatedMessage(group, parent, text, crossHits_.file(i), crossHits_.line(i), 1, 5);
   }
   host.beep(220, 500);
   host.showStatus("References found, see Message Window");
   return true;
+}
+
+const Tableau<QuickResu>& QuickFind::crossResults() const {
+  if (!crossResultsBuilt_) {
+    crossHits_.copyTo(&crossResults_);
+    crossResultsBuilt_ = true;
+  }
+  return crossResults_;
 }

@@ -62,8 +62,9 @@ bool QuickFind::walk(Host& host, const std::string& name, const std::vector<std:
                      const std::vector<std::string>& masks, const LineVisitor& visit) {
   DirectoryWalker walker(settings_.recurse);
   NameLines lines(name);
+  std::string text;
   auto visitFile = [&](const std::string& path) {
-    std::string text = readSourceText(host, path);
+    readSourceText(host, path, &text);
     return lines.visit(text, [&](std::string_view line, int32_t number) { return visit(path, line, number); });
   };
   for (const std::string& dir : dirs)

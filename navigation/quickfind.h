@@ -11,6 +11,7 @@
 
 #include "foundation/menu_model.h"
 #include "foundation/tableau.h"
+#include "navigation/hit_list.h"
 #include "navigation/quick_resu.h"
 #include "navigation/quickfind_settings.h"
 #include "navigation/search_history.h"
@@ -47,7 +48,8 @@ class QuickFind {
   bool crossReference(Host& host, const std::string& name);
 
   const Tableau<QuickResu>& methodResults() const { return methodResults_; }
-  const Tableau<QuickResu>& crossResults() const { return crossResults_; }
+  // Built from the last cross reference's hits when first asked for.
+  const Tableau<QuickResu>& crossResults() const;
 
   // The QuickFind popup of the editor's title bar, with the shortcuts' texts.
   MenuModel menu() const;
@@ -70,5 +72,7 @@ class QuickFind {
   QuickFindSettings settings_;
   SearchHistory history_;
   Tableau<QuickResu> methodResults_;
-  Tableau<QuickResu> crossResults_;
+  HitList crossHits_;
+  mutable Tableau<QuickResu> crossResults_;
+  mutable bool crossResultsBuilt_ = true;
 };

@@ -29,7 +29,9 @@ void MenuSettings::write() const {
 
 bool SourceScanner::functionsMenu(Host& host, const std::string& file, MenuModel* menu) {
   functions_.clear();
-  scanFunctions(readSourceText(host, file), &functions_);
+  std::string text;
+  readSourceText(host, file, &text);
+  scanFunctions(text, &functions_);
   if (settings_.sorted) sortFunctions(&functions_);
   if (functions_.count() == 0) {
     host.beep(220, 500);
@@ -42,7 +44,9 @@ bool SourceScanner::functionsMenu(Host& host, const std::string& file, MenuModel
 
 bool SourceScanner::includesMenu(Host& host, const std::string& file, MenuModel* menu) {
   includes_.clear();
-  scanIncludes(readSourceText(host, file), &includes_);
+  std::string text;
+  readSourceText(host, file, &text);
+  scanIncludes(text, &includes_);
   if (includes_.count() == 0) {
     host.showStatus("No include files detected !");
     return false;

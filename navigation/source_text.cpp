@@ -4,9 +4,7 @@
 #include "foundation/os.h"
 #include "ide/host.h"
 
-std::string readSourceText(Host& host, const std::string& path) {
-  std::string text;
-  if (host.editorText(path, &text)) return text;
-  if (!os().readFile(path, &text, nullptr)) text.clear();
-  return text;
+void readSourceText(Host& host, const std::string& path, std::string* text) {
+  if (host.editorText(path, text)) return;
+  if (!os().readFile(path, text, nullptr)) text->clear();
 }
