@@ -166,12 +166,10 @@ void timeScanner(const std::string& text, const std::string& name, const char* l
 
 std::string withCrLf(const std::string& text) {
   std::string out;
-  out.reserve(text.size() + text.size() / 16);
-  for (char c : text) {
-    if (c == '\n') out += '\r';
-    out += c;
-  }
-  return out;
+  size_t start = 0;
+  for (size_t end; (end = text.find('\n', start)) != std::string::npos; start = end + 1)
+    out.append(text, start, end - start).append("\r\n");
+  return out.append(text, start, std::string::npos);
 }
 
 bool removeTree(const std::string& dir) {
