@@ -7,6 +7,7 @@
 #include "foundation/os.h"
 #include "foundation/settings.h"
 #include "navigation/cross_reference.h"
+#include "navigation/hit_list.h"
 #include "navigation/include_search.h"
 #include "navigation/quickfind.h"
 #include "navigation/search_places.h"
@@ -256,4 +257,25 @@ TEST(QuickFindSettingsTest, DefaultsAndTheOrderOfWriting) {
             (std::vector<std::string>{"FunctionMask=*.cpp;*.cc;*.c", "IncludeMask=*.h;*.rh", "TxtFunction=???",
                                       "TxtMethod=???", "TxtClass=???", "TxtCross=???", "Recurse=1", "LeftSide=1",
                                       "KeyFunction=0", "KeyMethod=0", "KeyClass=0", "KeyCross=0"}));
+}
+
+TEST(HitListTest, KeepsTextsAcrossBlocksAndBuildsTheTableInOrder) {
+  HitList hits;
+  std::string huge(3u << 20, 'x');
+  hits.add("a.cpp", 1, "  first");
+  hits.add("a.cpp", 2, huge);
+  hits.add("b.cpp", 7, "  last");
+  ASSERT_EQ(hits.size(), 3u);
+  EXPECT_EQ(hits.text(0), "  first");
+  EXPECT_EQ(hits.text(1), huge) << "a text longer than a block gets its own";
+  EXPECT_EQ(hits.text(2), "  last");
+  EXPECT_EQ(hits.file(1), "a.cpp");
+  EXPECT_EQ(hits.file(2), "b.cpp");
+  Tableau<QuickResu> table;
+  table.append(new QuickResu(99, "old", "old"));
+  hits.copyTo(&table);
+  ASSERT_EQ(table.count(), 3);
+  EXPECT_EQ(table[2]->line(), 7);
+  EXPECT_EQ(table[2]->text(), "  last");
+  EXPECT_EQ(table[1]->text().size(), 65535u) << "a persisted text keeps the string's 16-bit length";
 }
