@@ -72,10 +72,16 @@ void printHit(const std::string& file, int32_t line, const std::string& text) {
   std::cout << file << ':' << line << ": " << text << '\n';
 }
 
+// An empty text ends a QuickFind command silently, as an empty prompt does.
+bool searchable(CliSession& session, const std::string& name) {
+  if (name.empty()) session.exitStatus = kExitNothing;
+  return !name.empty() && session.openProject();
+}
+
 void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
-  if (!session.openProject()) return;
-  QuickFind quickFind;
   std::string name = boundedSearchText(args.name);
+  if (!searchable(session, name)) return;
+  QuickFind quickFind;
   QuickHit hit;
   bool found = false;
   if (command == kQuickMethod) {
@@ -91,12 +97,13 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
 }
 
 void crossReference(CliSession& session, const NavigationArguments& args) {
-  if (!session.openProject()) return;
+  std::string name = boundedSearchText(args.name);
+  if (!searchable(session, name)) return;
   // Hundreds of thousands of hits are written far faster through a large buffer
   // than through the default one of 4 kB; a terminal keeps its line buffering.
   if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
   QuickFind quickFind;
-  if (!quickFind.crossReference(session.host(), boundedSearchText(args.name))) session.exitStatus = kExitNothing;
+  if (!quickFind.crossReference(session.host(), name)) session.exitStatus = kExitNothing;
 }
 
 }  // namespace
