@@ -4,9 +4,11 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <ctime>
 #include <iostream>
 
 #include "cli/kpj_project.h"
+#include "cli/sendmail_transport.h"
 #include "foundation/os.h"
 
 void CliHost::showStatus(const std::string& text) { std::cerr << text << '\n'; }
@@ -47,9 +49,14 @@ ProjectOptionStore* CliHost::projectOptions() { return project_; }
 
 int CliHost::runTool(const std::string&, const std::string&) { return -1; }
 
-MailResult CliHost::sendMail(const MailMessage&, std::string* err) {
-  if (err) *err = "no mail transport";
-  return MailResult::TransportMissing;
+MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
+  std::string text = composeInternetMessage(message, os().userName(), std::time(nullptr));
+  // The mail dialog of a terminal: the message itself, and a question.
+  if (message.showDialog && show(text + "\nSend this mail ?", "Mail", kAlertYesNo | kAlertIconQuestion) != kAnswerYes) {
+    if (err) *err = "mail not sent";
+    return MailResult::Failed;
+  }
+  return runSendmail(sendmailCommand(), text, err);
 }
 
 int CliHost::show(const std::string& text, const std::string& caption, unsigned style) {

@@ -29,3 +29,8 @@ void installXrefCommand(CLI::App& command, CliSession& session);
 void installKeywordsCommands(CLI::App& command, CliSession& session);
 void installCompleteCommands(CLI::App& command, CliSession& session);
 void installHtmlCommands(CLI::App& command, CliSession& session);
+void installRcgenCommand(CLI::App& command, CliSession& session);
+void installStampCommand(CLI::App& command, CliSession& session);
+void installTasksCommands(CLI::App& command, CliSession& session);
+void installFlashCommands(CLI::App& command, CliSession& session);
+void installMailCommands(CLI::App& command, CliSession& session);

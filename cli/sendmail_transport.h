@@ -1,0 +1,22 @@
+// The command-line host's mail transport: a sendmail-compatible program fed an
+// Internet message on its standard input.
+#pragma once
+
+#include <ctime>
+#include <string>
+
+#include "ide/host.h"
+
+// The setting "Mail"/"Sendmail" and its default.
+constexpr const char* kSendmailDefault = "/usr/sbin/sendmail -t -i";
+std::string sendmailCommand();
+
+// The whole message with CR LF line ends: From, To (every recipient), Subject
+// (encoded when it holds bytes above 127), Date, the MIME headers of a
+// windows-1252 plain text, a blank line and the note.
+std::string composeInternetMessage(const MailMessage& message, const std::string& from, std::time_t when);
+
+// Runs command through /bin/sh with message on its standard input. A command
+// that the shell cannot find gives TransportMissing; any other failure Failed,
+// with the exit status in *err.
+MailResult runSendmail(const std::string& command, const std::string& message, std::string* err);

@@ -1,0 +1,253 @@
+// kesto tasks ... and kesto flash: the project's task list, driven through the
+// same presenter as the task list dialog.
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "delivery/mail.h"
+#include "tasks/flash.h"
+#include "tasks/project_files.h"
+#include "tasks/task_list_presenter.h"
+#include "tasks/task_order.h"
+
+namespace {
+
+const std::map<std::string, int32_t> kStateNames = {{"to-do", kToDo}, {"coded", kCoded}, {"tested", kTested},
+                                                    {"ended", kEnded}};
+const std::map<std::string, int32_t> kSortNames = {
+    {"state", kByState}, {"start", kByStartDate}, {"end", kByEndDate}, {"priority", kByPriority}, {"type", kByType}};
+
+const CLI::IsMember kStateChoices({"to-do", "coded", "tested", "ended"});
+
+struct TaskArguments {
+  int32_t row = 0;
+  std::string name, type, state, priority, start, end, text;
+  // The field options, to tell which were given.
+  CLI::Option *nameOption = nullptr, *typeOption = nullptr, *stateOption = nullptr, *priorityOption = nullptr,
+              *startOption = nullptr, *endOption = nullptr, *textOption = nullptr;
+  bool makePublic = false;
+  bool makePrivate = false;
+  std::string sortName;
+  bool reverse = false;
+  std::string flagState;
+  bool automatic = false;
+};
+
+// The project's tasks as the dialog sees them, saved afterwards when changed.
+class TaskSession {
+ public:
+  explicit TaskSession(CliSession& session) : session_(session) {}
+
+  bool open() {
+    if (!session_.requireProject()) return false;
+    KpjProject& project = *session_.project();
+    tasks_.filePath = taskFilePath(project.path());
+    tasks_.load();
+    tasks_.rebuildView();
+    mail_.loadSettings();
+    loadRecipientsFromProject(mail_, project);
+    presenter_ = std::make_unique<TaskListPresenter>(tasks_, mail_, session_.host());
+    presenter_->open();
+    return true;
+  }
+
+  // Saves the task file when the presenter changed something.
+  void close() {
+    std::string err;
+    if (presenter_ && presenter_->modified() && !tasks_.save(&err)) {
+      reportError(err);
+      session_.exitStatus = kExitNothing;
+    }
+  }
+
+  // Selects a row of the view; a row past the end is a usage error.
+  bool select(int32_t row) {
+    int32_t count = static_cast<int32_t>(presenter_->rows().size());
+    if (row < 0 || row >= count) {
+      reportError("row " + std::to_string(row) + " is not in the list: it has " + std::to_string(count) +
+                  " row" + (count == 1 ? "" : "s") + (count ? ", counted from 0" : ""));
+      session_.exitStatus = kExitUsage;
+      return false;
+    }
+    presenter_->selectRow(row);
+    return true;
+  }
+
+  TaskList& tasks() { return tasks_; }
+  TaskListPresenter& presenter() { return *presenter_; }
+  CliSession& cli() { return session_; }
+
+ private:
+  CliSession& session_;
+  TaskList tasks_;
+  Mail mail_;
+  std::unique_ptr<TaskListPresenter> presenter_;
+};
+
+// Line feeds typed on a command line become the CR LF of the dialog's edit control.
+std::string dialogLines(const std::string& text) {
+  std::string out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
+    out += text[i];
+  }
+  return out;
+}
+
+// The report's CR LF lines printed as the terminal's lines.
+void printReport(const std::string& report) {
+  std::string out;
+  for (size_t i = 0; i < report.size(); ++i)
+    if (!(report[i] == '\r' && i + 1 < report.size() && report[i + 1] == '\n')) out += report[i];
+  std::cout << out << '\n';
+}
+
+bool given(const CLI::Option* option) { return option->count() > 0; }
+
+bool anyFieldGiven(const TaskArguments& args) {
+  for (const CLI::Option* option : {args.nameOption, args.typeOption, args.stateOption, args.priorityOption,
+                                    args.startOption, args.endOption, args.textOption})
+    if (given(option)) return true;
+  return args.makePublic || args.makePrivate;
+}
+
+// Puts the given options into the edit area, then applies it like "Ok".
+void applyFields(TaskSession& session, const TaskArguments& args) {
+  TaskEditArea& edit = session.presenter().edit;
+  if (given(args.nameOption)) edit.name = args.name;
+  if (given(args.typeOption)) edit.type = args.type;
+  if (given(args.stateOption)) edit.state = kStateNames.at(args.state);
+  if (given(args.priorityOption)) edit.priority = args.priority;
+  if (given(args.startOption)) edit.start = args.start;
+  if (given(args.endOption)) edit.end = args.end;
+  if (given(args.textOption)) edit.text = dialogLines(args.text);
+  if (args.makePublic) edit.isPublic = true;
+  if (args.makePrivate) edit.isPublic = false;
+  if (!session.presenter().apply()) session.cli().exitStatus = kExitNothing;
+}
+
+void addFieldOptions(CLI::App* command, TaskArguments& args) {
+  args.nameOption = command->add_option("--name", args.name, "Name (79 characters kept)");
+  args.typeOption = command->add_option("--type", args.type, "Type (79 characters kept)");
+  args.stateOption = command->add_option("--state", args.state, "State")->check(kStateChoices);
+  args.priorityOption = command->add_option("--priority", args.priority, "Priority, an unsigned number");
+  args.startOption = command->add_option("--start", args.start, "Start date, in the order of your short dates");
+  args.endOption = command->add_option("--end", args.end, "End date, in the order of your short dates");
+  args.textOption = command->add_option("--text", args.text, "Description (1022 characters kept)");
+  auto* makePublic = command->add_flag("--public", args.makePublic, "Make the task public");
+  command->add_flag("--private", args.makePrivate, "Make the task private")->excludes(makePublic);
+}
+
+template <typename Action>
+std::function<void()> withTasks(CliSession& session, Action action) {
+  return [&session, action] {
+    TaskSession tasks(session);
+    if (!tasks.open()) return;
+    action(tasks);
+    tasks.close();
+  };
+}
+
+void list(TaskSession& session) {
+  for (const std::string& row : session.presenter().rows()) std::cout << row << '\n';
+  if (session.presenter().rows().empty()) session.cli().exitStatus = kExitNothing;
+}
+
+// Prints the new task's row when it is in the list.
+void add(TaskSession& session, const TaskArguments& args) {
+  session.presenter().create();
+  const Task* created = session.tasks().view[session.presenter().selectedRow()];
+  if (anyFieldGiven(args)) applyFields(session, args);
+  int32_t row = session.tasks().viewIndexOf(created);
+  if (row != BasicTableau::kNotFound) std::cout << row << '\n';
+}
+
+void edit(TaskSession& session, const TaskArguments& args) {
+  if (session.select(args.row)) applyFields(session, args);
+}
+
+void remove(TaskSession& session, const TaskArguments& args) {
+  if (!session.select(args.row)) return;
+  if (!session.presenter().editingEnabled()) {
+    reportError("row " + std::to_string(args.row) + " is an ended task and ended tasks are read-only (\"Tasks\"/\"EndedReadOnly\")");
+    session.cli().exitStatus = kExitNothing;
+    return;
+  }
+  if (!session.presenter().remove()) session.cli().exitStatus = kExitNothing;
+}
+
+void report(TaskSession& session) {
+  String text;
+  if (!session.tasks().todayReport(text)) session.cli().exitStatus = kExitNothing;
+  printReport(text.str());
+}
+
+void flash(TaskSession& session, const TaskArguments& args) {
+  std::string marker = flashMarkerPath(session.cli().project()->path());
+  std::string text;
+  if (args.automatic) {
+    if (shouldFlashAtProjectOpen(session.tasks(), marker)) text = automaticFlashText(session.tasks());
+    if (text.empty()) {
+      session.cli().exitStatus = kExitNothing;
+      return;
+    }
+  } else {
+    text = flashOnDemandText(session.tasks());
+  }
+  FlashWindow window;
+  window.show(marker, text);
+  printReport(window.text());
+}
+
+}  // namespace
+
+void installTasksCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<TaskArguments>();
+  command.callback([&command, &session] {
+    if (command.get_subcommands().empty()) withTasks(session, list)();
+  });
+
+  CLI::App* addCommand = command.add_subcommand("add", "Create a task like \"Create\", then apply the options given; prints its row");
+  auto addArgs = std::make_shared<TaskArguments>();
+  addFieldOptions(addCommand, *addArgs);
+  addCommand->callback(withTasks(session, [addArgs](TaskSession& s) { add(s, *addArgs); }));
+
+  CLI::App* editCommand = command.add_subcommand("edit", "Change the task of ROW like \"Ok\" (an ended public task is notified)");
+  editCommand->add_option("row", args->row, "Row in the list, from 0")->required();
+  addFieldOptions(editCommand, *args);  // the only field options on args
+  editCommand->callback(withTasks(session, [args](TaskSession& s) { edit(s, *args); }));
+
+  CLI::App* removeCommand = command.add_subcommand("remove", "Remove the task of ROW (asks; --yes answers)");
+  removeCommand->add_option("row", args->row, "Row in the list, from 0")->required();
+  removeCommand->callback(withTasks(session, [args](TaskSession& s) { remove(s, *args); }));
+
+  CLI::App* sortCommand = command.add_subcommand("sort", "Set the order of the list");
+  sortCommand->add_option("key", args->sortName, "Sort key")->required()->check(
+      CLI::IsMember({"state", "start", "end", "priority", "type"}));
+  sortCommand->add_flag("--reverse", args->reverse, "Inverted order");
+  sortCommand->callback(withTasks(session, [args](TaskSession& s) {
+    s.presenter().setSortKey(kSortNames.at(args->sortName));
+    s.presenter().setReverse(args->reverse);
+  }));
+
+  for (bool on : {true, false}) {
+    CLI::App* flagCommand = command.add_subcommand(on ? "show" : "hide",
+                                                   on ? "List the tasks of STATE" : "Leave the tasks of STATE out");
+    flagCommand->add_option("state", args->flagState, "State")->required()->check(kStateChoices);
+    flagCommand->callback(withTasks(session, [args, on](TaskSession& s) {
+      s.presenter().setShowFlag(kStateNames.at(args->flagState), on);
+    }));
+  }
+
+  command.add_subcommand("report", "Print today's report of the flash states (status 1 when no task is current)")
+      ->callback(withTasks(session, report));
+}
+
+void installFlashCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<TaskArguments>();
+  command.add_flag("--auto", args->automatic,
+                   "Only once a day and only with a current task, as when the project opens (status 1 otherwise)");
+  command.callback(withTasks(session, [args](TaskSession& s) { flash(s, *args); }));
+}

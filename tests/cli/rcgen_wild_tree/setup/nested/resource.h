@@ -1,0 +1,1 @@
+#define IDC_FROM_HEADER 4

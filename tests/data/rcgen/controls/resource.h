@@ -1,0 +1,1 @@
+#define IDC_HEADER_ONLY 150
