@@ -169,7 +169,7 @@ TEST_F(QuickFindTest, CrossReferenceFailureBeepsTwice) {
 }
 
 TEST(CrossReferenceHeaderTest, ProjectNameCountAndPlural) {
-  EXPECT_EQ(crossReferenceHeader("Borland C++ -  demo", "Paint", "d", "t", 1),
+  EXPECT_EQ(crossReferenceHeader("The IDE -  demo", "Paint", "d", "t", 1),
             "demo : cross reference \"Paint\"  (d , t) : 1 found");
   EXPECT_EQ(crossReferenceHeader("No dash here", "x", "d", "t", 3), " : cross reference \"x\"  (d , t) : 3 founds");
   EXPECT_EQ(crossReferenceHeader("a - b - c", "x", "d", "t", 2), "b - c : cross reference \"x\"  (d , t) : 2 founds");
