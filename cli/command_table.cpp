@@ -7,6 +7,11 @@ const std::vector<CommandGroup>& commandGroups() {
   static const std::vector<CommandGroup> groups = {
       {"settings", "Read and write the add-on's settings", installSettingsCommands},
       {"project", "Create, show and change a project file", installProjectCommands},
+      {"functions", "List the functions and methods defined in a source file", installFunctionsCommand},
+      {"includes", "List the files a source file includes", installIncludesCommand},
+      {"include", "Find an include on the project's search path", installIncludeCommand},
+      {"find", "Find where a name is defined as a function, a method or a class", installFindCommands},
+      {"xref", "List every use of a name inside a body in the project's sources", installXrefCommand},
       {"keywords", "List the keyword files, or add, remove or extract one", installKeywordsCommands},
       {"complete", "Complete a word, or the word before the caret of a line, from the keywords", installCompleteCommands},
       {"html", "Write the HTML documentation site of the project or of a directory", installHtmlCommands},

@@ -21,6 +21,11 @@ const std::vector<CommandGroup>& commandGroups();
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
+void installFunctionsCommand(CLI::App& command, CliSession& session);
+void installIncludesCommand(CLI::App& command, CliSession& session);
+void installIncludeCommand(CLI::App& command, CliSession& session);
+void installFindCommands(CLI::App& command, CliSession& session);
+void installXrefCommand(CLI::App& command, CliSession& session);
 void installKeywordsCommands(CLI::App& command, CliSession& session);
 void installCompleteCommands(CLI::App& command, CliSession& session);
 void installHtmlCommands(CLI::App& command, CliSession& session);

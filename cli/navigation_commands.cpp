@@ -1,0 +1,155 @@
+// kesto functions|includes|include|find|xref: the editor's navigation menus and
+// QuickFind's searches on the files of a project.
+#include <unistd.h>
+
+#include <cstdio>
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "cli/cli_session.h"
+#include "cli/command_table.h"
+#include "foundation/menu_model.h"
+#include "navigation/include_search.h"
+#include "navigation/navigation_menus.h"
+#include "navigation/quickfind.h"
+#include "navigation/source_scanner.h"
+
+namespace {
+
+struct NavigationArguments {
+  std::string file;
+  std::string name;
+  std::string kind;  // find: function, method or class
+  std::string from;  // the file whose project node gives the search paths
+  bool unsorted = false;
+  int32_t size = 0;  // 0: the "Menus" setting
+  bool menu = false;
+};
+
+void listFunctions(CliSession& session, const NavigationArguments& args) {
+  SourceScanner scanner;
+  if (args.unsorted) scanner.settings().sorted = false;
+  if (args.size > 0) scanner.settings().size = args.size;
+  MenuModel menu;
+  if (!scanner.functionsMenu(session.host(), args.file, &menu)) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  if (args.menu) {
+    std::cout << describeMenu(menu);
+    return;
+  }
+  const Tableau<Fnc>& functions = scanner.functions();
+  for (int32_t i = 0; i < functions.count(); ++i) {
+    const Fnc& entry = *functions[i];
+    std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
+              << '\n';
+  }
+}
+
+void listIncludes(CliSession& session, const NavigationArguments& args) {
+  SourceScanner scanner;
+  MenuModel menu;
+  if (!scanner.includesMenu(session.host(), args.file, &menu)) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  const Tableau<String>& includes = scanner.includes();
+  for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
+}
+
+void locateInclude(CliSession& session, const NavigationArguments& args) {
+  if (!session.openProject()) return;
+  std::string path;
+  if (findInclude(session.host(), args.name, args.from, &path))
+    std::cout << path << '\n';
+  else
+    session.exitStatus = kExitNothing;
+}
+
+void printHit(const std::string& file, int32_t line, const std::string& text) {
+  std::cout << file << ':' << line << ": " << text << '\n';
+}
+
+// An empty text ends a QuickFind command silently, as an empty prompt does.
+bool searchable(CliSession& session, const std::string& name) {
+  if (name.empty()) session.exitStatus = kExitNothing;
+  return !name.empty() && session.openProject();
+}
+
+void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
+  std::string name = boundedSearchText(args.name);
+  if (!searchable(session, name)) return;
+  QuickFind quickFind;
+  QuickHit hit;
+  bool found = false;
+  if (command == kQuickMethod) {
+    found = quickFind.findMethods(session.host(), name, args.from);
+    const Tableau<QuickResu>& results = quickFind.methodResults();
+    for (int32_t i = 0; i < results.count(); ++i) printHit(results[i]->file(), results[i]->line(), results[i]->text());
+  } else {
+    found = command == kQuickFunction ? quickFind.findFunction(session.host(), name, args.from, &hit)
+                                      : quickFind.findClass(session.host(), name, args.from, &hit);
+    if (found) printHit(hit.file, hit.line, hit.text);
+  }
+  if (!found) session.exitStatus = kExitNothing;
+}
+
+void crossReference(CliSession& session, const NavigationArguments& args) {
+  std::string name = boundedSearchText(args.name);
+  if (!searchable(session, name)) return;
+  // Hundreds of thousands of hits are written far faster through a large buffer
+  // than through the default one of 4 kB; a terminal keeps its line buffering.
+  if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
+  QuickFind quickFind;
+  if (!quickFind.crossReference(session.host(), name)) session.exitStatus = kExitNothing;
+}
+
+}  // namespace
+
+void installFunctionsCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("file", args->file, "Source file to scan")->required();
+  command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
+  command.add_option("--size", args->size, "Items per menu column (default: the Menus setting Size)")
+      ->check(CLI::PositiveNumber);
+  command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
+  command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
+  command.callback([&session, args] { listFunctions(session, *args); });
+}
+
+void installIncludesCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("file", args->file, "Source file to scan")->required();
+  command.footer("Prints ID<TAB>NAME per include.");
+  command.callback([&session, args] { listIncludes(session, *args); });
+}
+
+void installIncludeCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("name", args->name, "Include name, as written between <> or double quotes")->required();
+  command.add_option("--from", args->from, "File whose project node gives the include path");
+  command.callback([&session, args] { locateInclude(session, *args); });
+}
+
+void installFindCommands(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  static const std::map<std::string, QuickCommand> kinds = {
+      {"function", kQuickFunction}, {"method", kQuickMethod}, {"class", kQuickClass}};
+  command.add_option("kind", args->kind, "function: first definition; method: every Class::Name definition; "
+                                         "class: first class declaration on the include and source paths")
+      ->required()
+      ->check(CLI::IsMember({"function", "method", "class"}));
+  command.add_option("name", args->name, "Name to find")->required();
+  command.add_option("--from", args->from, "File whose project node gives the source and include paths");
+  command.footer("Prints PATH:LINE: TEXT: the matching line of the first hit, or Class::Name for every method.");
+  command.callback([&session, args] { findDefinition(session, *args, kinds.at(args->kind)); });
+}
+
+void installXrefCommand(CLI::App& command, CliSession& session) {
+  auto args = std::make_shared<NavigationArguments>();
+  command.add_option("name", args->name, "Name whose uses inside bodies are listed")->required();
+  command.footer("Prints a header line, then PATH:LINE:1: LINE per use, in the order found.");
+  command.callback([&session, args] { crossReference(session, *args); });
+}

@@ -1,0 +1,44 @@
+// The navigation popups as menu models: functions, includes, QuickFind,
+// method results and "Edit Documentation".
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "foundation/kstring.h"
+#include "foundation/menu_model.h"
+#include "foundation/tableau.h"
+#include "navigation/function_scan.h"
+
+constexpr uint32_t kFirstFunctionId = 1000;
+constexpr uint32_t kFirstIncludeId = 700;
+constexpr uint32_t kFirstResultId = 800;
+constexpr uint32_t kFindFunctionId = 190;
+constexpr uint32_t kFindMethodId = 191;
+constexpr uint32_t kFindClassId = 192;
+constexpr uint32_t kCrossReferenceId = 193;
+constexpr uint32_t kEditDocumentationId = 177;
+
+// Free functions in the main popup, each run of adjacent methods of one class
+// in a submenu titled by the class; item i is 1000 + i. A popup starts a new
+// column after every columnHeight items (never when columnHeight is 0).
+MenuModel functionsMenu(const Tableau<Fnc>& functions, int32_t columnHeight);
+
+// Item i is 700 + i, in one column.
+MenuModel includesMenu(const Tableau<String>& includes);
+
+// The four QuickFind commands; keys[i] != 0 adds a tab and keyTexts[i] to item i
+// (function, method, class, cross reference).
+MenuModel quickFindMenu(const std::array<uint16_t, 4>& keys, const std::array<std::string, 4>& keyTexts);
+
+MenuModel editDocumentationMenu();
+
+// Item i is 800 + i with the text of result i.
+template <typename Results>
+MenuModel resultsMenu(const Results& results) {
+  MenuModel menu;
+  for (int32_t i = 0; i < results.count(); ++i)
+    menu.items.push_back(MenuItem::command(kFirstResultId + static_cast<uint32_t>(i), results[i]->text()));
+  return menu;
+}

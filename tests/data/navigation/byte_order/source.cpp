@@ -1,0 +1,8 @@
+void zeta(void)
+void Zeta(void)
+void _under(void)
+void été::x(void)
+void beta::b(void)
+void Beta::a(void)
+void Beta::A(void)
+void alpha (void)

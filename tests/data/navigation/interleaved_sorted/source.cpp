@@ -1,0 +1,6 @@
+void Frame::Paint(HDC dc)
+void helper(void)
+void Frame::Size(int cx)
+void View::Draw(void)
+void View::Clear(void)
+void Frame::Close(void)
