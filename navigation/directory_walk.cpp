@@ -18,7 +18,7 @@ bool DirectoryWalker::walk(const std::string& dir, const std::string& mask, cons
       return false;
   if (!recurse_) return true;
   for (const DirectoryEntry& entry : entries)
-    if (entry.attributes.isDirectory && entry.name[0] != '.' && !walk(joinPath(dir, entry.name), mask, visit))
+    if (isWalkableDirectory(entry) && entry.name[0] != '.' && !walk(joinPath(dir, entry.name), mask, visit))
       return false;
   return true;
 }

@@ -17,7 +17,7 @@ bool searchBelow(const std::string& dir, const std::string& name, std::string* p
   std::vector<DirectoryEntry> entries;
   if (!os().listDirectory(dir, &entries, nullptr)) return false;
   for (const DirectoryEntry& entry : entries)
-    if (entry.attributes.isDirectory && entry.name[0] != '.' && searchBelow(joinPath(dir, entry.name), name, path))
+    if (isWalkableDirectory(entry) && entry.name[0] != '.' && searchBelow(joinPath(dir, entry.name), name, path))
       return true;
   return false;
 }
