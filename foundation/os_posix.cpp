@@ -137,6 +137,21 @@ std::string localeFormat(const char* localeName, nl_item item, const SystemTime&
   return std::string(text, n);
 }
 
+// The current time, or the one SOURCE_DATE_EPOCH pins for reproducible runs.
+struct timeval currentTimeOfDay() {
+  struct timeval now;
+  const char* pinned = std::getenv("SOURCE_DATE_EPOCH");
+  char* end = nullptr;
+  long long seconds = pinned && *pinned ? std::strtoll(pinned, &end, 10) : 0;
+  if (pinned && *pinned && *end == 0) {
+    now.tv_sec = static_cast<time_t>(seconds);
+    now.tv_usec = 0;
+  } else {
+    ::gettimeofday(&now, nullptr);
+  }
+  return now;
+}
+
 class PosixOs : public Os {
  public:
   bool readFile(const std::string& path, std::string* data, std::string* err) override {
@@ -289,16 +304,14 @@ class PosixOs : public Os {
   }
 
   SystemTime localTime() override {
-    struct timeval now;
-    ::gettimeofday(&now, nullptr);
+    struct timeval now = currentTimeOfDay();
     struct tm t;
     ::localtime_r(&now.tv_sec, &t);
     return fromTm(t, now.tv_usec / 1000);
   }
 
   SystemTime systemTime() override {
-    struct timeval now;
-    ::gettimeofday(&now, nullptr);
+    struct timeval now = currentTimeOfDay();
     struct tm t;
     ::gmtime_r(&now.tv_sec, &t);
     return fromTm(t, now.tv_usec / 1000);
