@@ -112,18 +112,20 @@ bool KpjProject::parse(const std::string& path, const std::string& text, std::st
     if (err) *err = path + ":1:1: a project file holds one JSON object";
     return false;
   }
+  // The document itself is the project's top node: its directory options are
+  // what every node inherits; its name is always the project file's.
   root_ = ProjectNode();
-  root_.name = fileNameOf(path);
-  root_.type = ".kpj";
-  ProjectNode top;
-  Json asNode = Json::object();
-  if (document_.contains("nodes")) asNode["nodes"] = document_["nodes"];
+  Json asNode = document_;
+  asNode.erase("name");
+  asNode.erase("type");
+  asNode.erase("options");
   std::string why;
-  if (!readNode(asNode, &top, &why)) {
+  if (!readNode(asNode, &root_, &why)) {
     if (err) *err = path + ": " + why;
     return false;
   }
-  root_.nodes = top.nodes;
+  root_.name = fileNameOf(path);
+  root_.type = ".kpj";
   if (document_.contains("options") && !document_["options"].is_object()) {
     if (err) *err = path + ": \"options\" must be an object";
     return false;

@@ -20,7 +20,8 @@ class KpjProject : public ProjectOptionStore {
   bool save(std::string* err);
 
   const std::string& path() const { return path_; }
-  // The project's top node: the project file itself, holding the file's nodes.
+  // The project's top node: the project file itself, with the document's own
+  // "description", "include_path" and "source_path", holding the file's nodes.
   const ProjectNode& root() const { return root_; }
 
   // Integers are JSON integers, texts JSON strings with their marker.

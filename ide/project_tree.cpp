@@ -35,9 +35,32 @@ const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& nam
   return nullptr;
 }
 
-bool nodeOption(const ProjectNode& node, NodeOptionKind kind, std::string* value) {
-  const std::string& option = kind == NodeOptionKind::IncludePath ? node.includePath : node.sourcePath;
-  if (option.empty()) return false;
-  *value = option;
+namespace {
+
+const std::string& ownOption(const ProjectNode& node, NodeOptionKind kind) {
+  return kind == NodeOptionKind::IncludePath ? node.includePath : node.sourcePath;
+}
+
+// Finds node below from, then fills value on the way back up with the nearest set option.
+bool inheritedOption(const ProjectNode& from, const ProjectNode& node, NodeOptionKind kind, std::string* value,
+                     bool* found) {
+  if (&from == &node) {
+    *found = true;
+  } else {
+    for (const ProjectNode& child : from.nodes) {
+      if (inheritedOption(child, node, kind, value, found)) return true;
+      if (*found) break;
+    }
+    if (!*found) return false;
+  }
+  if (ownOption(from, kind).empty()) return false;
+  *value = ownOption(from, kind);
   return true;
+}
+
+}  // namespace
+
+bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind kind, std::string* value) {
+  bool found = false;
+  return inheritedOption(root, node, kind, value, &found);
 }

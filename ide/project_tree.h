@@ -25,5 +25,6 @@ const ProjectNode* findNodeHoldingFile(const ProjectNode& root, const std::strin
 // The first node of that name, depth-first; null when none.
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name);
 
-// The option of the node; false when the node has none (empty value).
-bool nodeOption(const ProjectNode& node, NodeOptionKind kind, std::string* value);
+// The option of a node of root's tree: its own value, else its nearest
+// ancestor's, as the IDE's nodes inherit options; false when none has one.
+bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind kind, std::string* value);

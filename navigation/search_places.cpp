@@ -43,8 +43,8 @@ SearchPlaces searchPlaces(Host& host, const std::string& editorFile) {
   if (!places.projectOpen || !root) return places;
   const ProjectNode* node = editorFile.empty() ? nullptr : findNodeHoldingFile(*root, editorFile);
   if (!node) node = root;
-  nodeOption(*node, NodeOptionKind::IncludePath, &places.includePath);
-  nodeOption(*node, NodeOptionKind::SourcePath, &places.sourcePath);
+  nodeOption(*root, *node, NodeOptionKind::IncludePath, &places.includePath);
+  nodeOption(*root, *node, NodeOptionKind::SourcePath, &places.sourcePath);
   return places;
 }
 
