@@ -120,8 +120,10 @@ void applyFields(TaskSession& session, const TaskArguments& args) {
   if (given(args.typeOption)) edit.type = args.type;
   if (given(args.stateOption)) edit.state = kStateNames.at(args.state);
   if (given(args.priorityOption)) edit.priority = args.priority;
-  if (given(args.startOption)) edit.start = args.start;
-  if (given(args.endOption)) edit.end = args.end;
+  edit.readStart = given(args.startOption);
+  edit.readEnd = given(args.endOption);
+  if (edit.readStart) edit.start = args.start;
+  if (edit.readEnd) edit.end = args.end;
   if (given(args.textOption)) edit.text = dialogLines(args.text);
   if (args.makePublic) edit.isPublic = true;
   if (args.makePrivate) edit.isPublic = false;

@@ -20,6 +20,11 @@ struct TaskEditArea {
   bool isPublic = false; // 113
   std::string start;     // 114, a short date
   std::string end;       // 117
+  // Whether "Ok" reads the two dates back. The dialog always does; the command
+  // line reads only the dates it was given, since reading back a shown date of
+  // this century would put it in the last one.
+  bool readStart = true;
+  bool readEnd = true;
   std::string text;      // 118
 };
 
