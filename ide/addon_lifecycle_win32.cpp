@@ -5,12 +5,17 @@
 
 #include <new>
 
+#include "completion/completion_engine.h"
+#include "delivery/mail.h"
 #include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
 #include "ide/help_file_win32.h"
+#include "navigation/quickfind.h"
+#include "navigation/source_scanner.h"
+#include "tasks/task_list.h"
 
 namespace {
 
@@ -36,6 +41,31 @@ template <typename T>
 void destroy(T*& slot) {
   delete slot;
   slot = nullptr;
+}
+
+// Feature objects read their settings when they are made and write them back
+// when they are deleted.
+template <typename T>
+void create(T*& slot, void (T::*readSettings)()) {
+  slot = new (std::nothrow) T();
+  if (slot && readSettings) (slot->*readSettings)();
+}
+
+template <typename T, typename Result>
+void saveAndDestroy(T*& slot, Result (T::*writeSettings)() const) {
+  if (slot) (slot->*writeSettings)();
+  destroy(slot);
+}
+
+template <typename T>
+void saveAndDestroy(T*& slot, void (T::*writeSettings)()) {
+  if (slot) (slot->*writeSettings)();
+  destroy(slot);
+}
+
+void createCompletion(IIdeRoot*) {
+  create(addon().completion, &CompletionEngine::readSettings);
+  if (addon().completion) addon().completion->load();
 }
 
 void registerBar(IIdeRoot*) { gBarClassRegistered = registerBarClass(addon().environment->instance); }
@@ -93,11 +123,12 @@ const Step kInitialisation[] = {
     {"register the bar's window class", registerBar},
     {"create the start-up menu", createMenu},
     {"create the bar window", createBar},
-    {"create QuickFind, given the bar", nullptr},
+    {"create QuickFind, given the bar", [](IIdeRoot*) { create<QuickFind>(addon().quickFind, nullptr); }},
     {"create the help file, given the bar", createHelpFile},
-    {"create the editor navigation, given the bar and the new-shell flag", nullptr},
+    {"create the editor navigation, given the bar and the new-shell flag",
+     [](IIdeRoot*) { create<SourceScanner>(addon().navigation, nullptr); }},
     {"create the top bar settings, given the new-shell flag and the bar", nullptr},
-    {"create the completion engine", nullptr},
+    {"create the completion engine", createCompletion},
     {"create the general behaviours", nullptr},
     {"create the delivery object", nullptr},
     {"hold the editor service", createEditorHolder},
@@ -109,8 +140,8 @@ const Step kInitialisation[] = {
     {"create and register the delivery tool", nullptr},
     {"load the recent-file lists", nullptr},
     {"hold the options service", createOptionsHolder},
-    {"create the mail options", nullptr},
-    {"create the task manager", nullptr},
+    {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
+    {"create the task manager", [](IIdeRoot*) { create(addon().tasks, &TaskList::loadSettings); }},
     {"create the groupware settings", nullptr},
     {"create the HTML settings", nullptr},
     {"create the groupware project object, given the project service", nullptr},
@@ -118,19 +149,22 @@ const Step kInitialisation[] = {
 
 const Step kShutdown[] = {
     {"save the recent-file lists", nullptr},
-    {"delete the mail options", nullptr},
-    {"delete QuickFind", nullptr},
+    {"delete the mail options", [](IIdeRoot*) { saveAndDestroy(addon().mail, &Mail::saveSettings); }},
+    {"delete QuickFind", [](IIdeRoot*) { saveAndDestroy(addon().quickFind, &QuickFind::writeSettings); }},
     {"delete the delivery object", nullptr},
     {"delete the hooks", nullptr},
     {"delete the help file", [](IIdeRoot*) { destroy(addon().helpFile); }},
-    {"delete the editor navigation", nullptr},
+    {"delete the editor navigation",
+     [](IIdeRoot*) { saveAndDestroy(addon().navigation, &SourceScanner::writeSettings); }},
     {"delete the top bar settings", nullptr},
-    {"delete the completion engine", nullptr},
+    {"delete the completion engine",
+     [](IIdeRoot*) { saveAndDestroy(addon().completion, &CompletionEngine::writeSettings); }},
     {"release the editor service", [](IIdeRoot*) { destroy(addon().editor); }},
     {"delete the general behaviours", nullptr},
     {"release the status line service", [](IIdeRoot*) { destroy(addon().statusLine); }},
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
-    {"save the tasks and delete the task manager", nullptr},
+    {"save the tasks and delete the task manager",
+     [](IIdeRoot*) { saveAndDestroy(addon().tasks, &TaskList::saveSettings); }},
     {"delete the groupware settings", nullptr},
     {"delete the HTML settings", nullptr},
     {"delete the groupware project object", nullptr},

@@ -8,16 +8,26 @@
 #include "ide/ide_access_win32.h"
 #include "ide/tool_table.h"
 
+class CompletionEngine;
 class HelpFile;
+class Mail;
+class QuickFind;
+class SourceScanner;
+class TaskList;
 
 struct AddonSlots {
   AddonEnvironment* environment = nullptr;
   HWND bar = nullptr;
+  QuickFind* quickFind = nullptr;
   HelpFile* helpFile = nullptr;
+  SourceScanner* navigation = nullptr;
+  CompletionEngine* completion = nullptr;
   ServiceHolder<IIdeEditor>* editor = nullptr;
   ServiceHolder<IIdeStatusLine>* statusLine = nullptr;
   Tableau<Tool>* tools = nullptr;
   ServiceHolder<IIdeNodeOptions>* options = nullptr;
+  Mail* mail = nullptr;
+  TaskList* tasks = nullptr;
 };
 
 AddonSlots& addon();

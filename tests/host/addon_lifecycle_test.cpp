@@ -3,11 +3,26 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "addon_loader.h"
+#include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
 
 namespace {
+
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
+
+// Reads a value as the add-on stored it in the prefix's registry.
+bool readSetting(const std::string& section, const std::string& name, std::string* text = nullptr) {
+  SettingsRegistry registry;
+  std::string value;
+  bool found = registry.read(std::string(SettingsStore::kAddOnRoot) + "\\" + section, name, 2000, &value);
+  if (found && text) *text = value;
+  return found;
+}
+
 }  // namespace
 
 TEST(AddonLifecycleTest, HoldsItsServicesWhileRunningAndReturnsThemAll) {
@@ -42,4 +57,24 @@ TEST(AddonLifecycleTest, MissingOptionsServiceFailsItsAssertionAndTheAddonGoesOn
   EXPECT_EQ(ide.editor.references, 1) << "the other services are held";
   addon.stop();
   EXPECT_EQ(ide.referencesHeld(), 0);
+}
+
+TEST(AddonLifecycleTest, ShutdownWritesTheFeaturesSettingsBack) {
+  MessageBoxWatchdog watchdog;
+  RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+  TestIde ide;
+  {
+    LoadedAddon addon(kAddon);
+    ASSERT_TRUE(addon.start(&ide));
+    EXPECT_FALSE(readSetting("QuickFind", "FunctionMask")) << "starting reads, it never writes";
+    addon.stop();
+  }
+  for (const auto& [section, name] : std::vector<std::pair<std::string, std::string>>{
+           {"QuickFind", "FunctionMask"}, {"QuickFind", "KeyCross"}, {"Menus", "Size"}, {"Completion", "KeyCode"},
+           {"Completion", "NbFiles"}, {"Mail", "Control"}, {"Tasks", "Types"}, {"Tasks", "AutoFlash"}})
+    EXPECT_TRUE(readSetting(section, name)) << section << "/" << name;
+  std::string size;
+  ASSERT_TRUE(readSetting("Menus", "Size", &size));
+  EXPECT_EQ(size, "50");
+  EXPECT_TRUE(watchdog.boxes().empty());
 }
