@@ -1,10 +1,38 @@
 // kesto: the add-on's features on a project file, from the command line.
 #include <CLI/CLI.hpp>
 
+#include <iostream>
+#include <string>
+
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 
+namespace {
+
+// The first word that is not a global option must name a command; otherwise the
+// user is told the valid ones rather than only that one is missing.
+bool commandIsKnown(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    std::string word = argv[i];
+    if (word == "--project") {
+      ++i;
+      continue;
+    }
+    if (word.empty() || word[0] == '-') continue;
+    for (const CommandGroup& group : commandGroups())
+      if (word == group.name) return true;
+    std::string names;
+    for (const CommandGroup& group : commandGroups()) names += std::string(names.empty() ? "" : ", ") + group.name;
+    std::cerr << "kesto: unknown command '" << word << "'; the commands are: " << names << '\n';
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (!commandIsKnown(argc, argv)) return kExitUsage;
   CliSession session;
   CLI::App app{"Kesto AddOn on the command line: navigation, completion, tasks, documentation and generators."};
   app.name("kesto");
