@@ -13,6 +13,7 @@
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
 #include "ide/help_file_win32.h"
+#include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
 #include "tasks/task_list.h"
@@ -136,12 +137,16 @@ const Step kInitialisation[] = {
     {"fill the tool table", createToolTable},
     {"show or hide the bar", showBar},
     {"install the hooks, given the bar", nullptr},
-    {"create and register the project clients", nullptr},
+    {"create and register the project clients",
+     [](IIdeRoot*) {
+       create<ProjectTestA>(addon().projectClients, nullptr);
+       if (addon().projectClients) addon().projectClients->registerClients();
+     }},
     {"create and register the delivery tool", nullptr},
     {"load the recent-file lists", nullptr},
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
-    {"create the task manager", [](IIdeRoot*) { create(addon().tasks, &TaskList::loadSettings); }},
+    {"create the task manager", [](IIdeRoot*) { create<TaskList>(addon().tasks, nullptr); }},
     {"create the groupware settings", nullptr},
     {"create the HTML settings", nullptr},
     {"create the groupware project object, given the project service", nullptr},
@@ -169,9 +174,12 @@ const Step kShutdown[] = {
     {"delete the HTML settings", nullptr},
     {"delete the groupware project object", nullptr},
     {"destroy the bar window", destroyBar},
-    {"unregister the project clients", nullptr},
+    {"unregister the project clients",
+     [](IIdeRoot*) {
+       if (addon().projectClients) addon().projectClients->unregisterClients();
+     }},
     {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
-    {"delete the project clients", nullptr},
+    {"delete the project clients", [](IIdeRoot*) { destroy(addon().projectClients); }},
     {"release the IDE pointer", [](IIdeRoot*) { releaseIdePointer(); }},
 };
 

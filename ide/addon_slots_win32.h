@@ -11,6 +11,7 @@
 class CompletionEngine;
 class HelpFile;
 class Mail;
+class ProjectTestA;
 class QuickFind;
 class SourceScanner;
 class TaskList;
@@ -25,6 +26,7 @@ struct AddonSlots {
   ServiceHolder<IIdeEditor>* editor = nullptr;
   ServiceHolder<IIdeStatusLine>* statusLine = nullptr;
   Tableau<Tool>* tools = nullptr;
+  ProjectTestA* projectClients = nullptr;
   ServiceHolder<IIdeNodeOptions>* options = nullptr;
   Mail* mail = nullptr;
   TaskList* tasks = nullptr;

@@ -35,8 +35,9 @@ TEST(AddonLifecycleTest, HoldsItsServicesWhileRunningAndReturnsThemAll) {
     EXPECT_EQ(ide.editor.references, 1);
     EXPECT_EQ(ide.statusLine.references, 1);
     EXPECT_EQ(ide.nodeOptions.references, 1);
-    EXPECT_EQ(ide.make.references + ide.project.references + ide.tools.references, 0)
-        << "those are taken only while used";
+    EXPECT_EQ(ide.project.references, 1) << "the project clients' registration holds it";
+    EXPECT_EQ(ide.projectSave.references, 1);
+    EXPECT_EQ(ide.make.references + ide.tools.references, 0) << "those are taken only while used";
     EXPECT_NE(FindWindowA("KADO", nullptr), nullptr);
 
     addon.stop();
@@ -76,5 +77,41 @@ TEST(AddonLifecycleTest, ShutdownWritesTheFeaturesSettingsBack) {
   std::string size;
   ASSERT_TRUE(readSetting("Menus", "Size", &size));
   EXPECT_EQ(size, "50");
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST(AddonLifecycleTest, ProjectOptionsAreReadAtOpeningAndWrittenAtSaving) {
+  MessageBoxWatchdog watchdog;
+  TestIde ide;
+  char folder[MAX_PATH];
+  GetCurrentDirectoryA(sizeof folder, folder);
+  ide.project.projectFile = std::string(folder) + "\\DEMO.IDE";
+  ide.project.addNode(0, "demo.exe", "AppExpert");
+  auto& stored = ide.nodeOptions.projectOptions;
+  stored["Kesto_NB_MAIL"] = std::string("\x02\0\0\0", 4);
+  stored["Kesto_MAIL_PJ_0"] = std::string("+ann@example.org\0", 17);
+  stored["Kesto_MAIL_PJ_1"] = std::string("+\0", 2);
+  stored["Kesto_HTMLAU"] = std::string("\x01\0", 2);
+  {
+    LoadedAddon addon(kAddon);
+    ASSERT_TRUE(addon.start(&ide));
+    ASSERT_EQ(ide.project.clients.size(), 1u);
+    ASSERT_EQ(ide.projectSave.clients.size(), 1u);
+    ide.project.clients[0]->ProjectOpened(nullptr);
+    EXPECT_EQ(ide.make.clients.size(), 1u) << "the make client follows the open project";
+    stored.clear();
+    ide.projectSave.clients[0]->ProjectSaving();
+    EXPECT_EQ(stored["Kesto_NB_MAIL"], std::string("\x01\0\0\0", 4)) << "the empty recipient is dropped";
+    EXPECT_EQ(stored["Kesto_MAIL_PJ_0"], std::string("+ann@example.org\0", 17));
+    EXPECT_EQ(stored["Kesto_HTMLAU"], std::string("\0\0\0\0", 4)) << "a stored integer of 2 bytes is ignored";
+    EXPECT_EQ(stored["Kesto_HTMLFI"], std::string("~*.cpp;*.h\0", 11));
+    EXPECT_EQ(stored.size(), 12u) << "every option once, no delivery group";
+    ide.project.clients[0]->ProjectClosed();
+    EXPECT_TRUE(ide.make.clients.empty());
+    addon.stop();
+  }
+  EXPECT_TRUE(ide.project.clients.empty());
+  EXPECT_TRUE(ide.projectSave.clients.empty());
+  EXPECT_EQ(ide.referencesHeld(), 0);
   EXPECT_TRUE(watchdog.boxes().empty());
 }

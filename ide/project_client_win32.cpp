@@ -1,0 +1,100 @@
+// Opening, closing and saving a project: the per-project options, the task
+// file, the mail recipients and the make client follow the open project.
+#include "ide/project_client_win32.h"
+
+#include <memory>
+#include <new>
+
+#include "delivery/mail.h"
+#include "foundation/os.h"
+#include "foundation/settings.h"
+#include "ide/addon_slots_win32.h"
+#include "ide/ide_access_win32.h"
+#include "ide/ide_host_win32.h"
+#include "ide/make_client_win32.h"
+#include "tasks/task_list.h"
+
+namespace {
+
+std::unique_ptr<ProjectOptions> gOpenProject;
+
+void emptyTasks() {
+  if (!addon().tasks) return;
+  addon().tasks->view.removeRange(0, 0);
+  addon().tasks->removeRange(0, 0);
+}
+
+}  // namespace
+
+ProjectOptions* openProjectOptions() { return gOpenProject.get(); }
+
+void saveProjectOptions() {
+  ProjectOptionStore* store = ideHost().projectOptions();
+  if (!gOpenProject || !store) return;
+  if (addon().mail) gOpenProject->mailRecipients = addon().mail->recipientTexts();
+  writeProjectOptions(*store, *gOpenProject);
+}
+
+void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
+  emptyTasks();
+  const std::string projectFile = ideHost().projectFile();
+  // The IDE may tell of a project that it did not load.
+  if (projectFile.empty()) return;
+  if (addon().tasks) {
+    addon().tasks->filePath = projectFile + ".tsk";
+    addon().tasks->load();
+  }
+  std::string directory = directoryOf(projectFile);
+  os().setCurrentDirectory(directory.empty() ? os().currentDirectory() : directory, nullptr);
+  registerMakeClient([] { return new (std::nothrow) MakeClient(nullptr, nullptr); });
+  ProjectOptionStore* store = ideHost().projectOptions();
+  if (!store) return;
+  gOpenProject = std::make_unique<ProjectOptions>(
+      readProjectOptions(*store, settings().readInteger("TopBar", "Hierarchical", 0)));
+  if (addon().mail) addon().mail->setRecipients(gOpenProject->mailRecipients);
+}
+
+void __stdcall ProjectClientImpl::ProjectClosed() {
+  if (!gOpenProject) return;
+  unregisterMakeClient();
+  if (addon().mail) addon().mail->setRecipients({});
+  gOpenProject.reset();
+}
+
+void __stdcall ProjectClientImpl::NodeChanged(IdeHandle) {}
+
+void __stdcall ProjectClient2Impl::ProjectSaving() { saveProjectOptions(); }
+
+ProjectTestA::~ProjectTestA() { unregisterClients(); }
+
+void ProjectTestA::registerClients() {
+  project_ = getService<IIdeProject>(ide_iid::kProject);
+  projectSave_ = getService<IIdeProjectSave>(ide_iid::kProjectSave);
+  if (project_ && (client_ = new (std::nothrow) ProjectClientImpl())) {
+    client_->AddRef();
+    project_->AddClient(client_);
+  }
+  if (projectSave_ && (saveClient_ = new (std::nothrow) ProjectClient2Impl())) {
+    saveClient_->AddRef();
+    projectSave_->AddClient(saveClient_);
+  }
+}
+
+void ProjectTestA::unregisterClients() {
+  // Each service drops the reference it was given; ours goes last.
+  if (client_) {
+    if (project_) project_->RemoveClient(client_);
+    client_->Release();
+    client_ = nullptr;
+  }
+  if (saveClient_) {
+    if (projectSave_) projectSave_->RemoveClient(saveClient_);
+    saveClient_->Release();
+    saveClient_ = nullptr;
+  }
+  if (project_) project_->Release();
+  if (projectSave_) projectSave_->Release();
+  project_ = nullptr;
+  projectSave_ = nullptr;
+  gOpenProject.reset();
+}
