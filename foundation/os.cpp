@@ -60,6 +60,13 @@ bool Os::readTextFile(const std::string& path, std::string* text, std::string* e
   return true;
 }
 
+bool Os::makeDirectories(const std::string& path, std::string* err) {
+  if (path.empty() || exists(path)) return true;
+  std::string parent = directoryOf(path);
+  if (parent != path && !makeDirectories(parent, err)) return false;
+  return makeDirectory(path, err);
+}
+
 std::string joinPath(const std::string& dir, const std::string& name) {
   if (dir.empty()) return name;
   char last = dir.back();

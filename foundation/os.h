@@ -92,6 +92,8 @@ class Os {
   // Text files in the platform's text mode: "\n" becomes CR LF on Windows.
   bool writeTextFile(const std::string& path, const std::string& text, std::string* err);
   bool writeTextFileAtomic(const std::string& path, const std::string& text, std::string* err);
+  // Creates path and every missing folder above it; true when it exists afterwards.
+  bool makeDirectories(const std::string& path, std::string* err);
   // Reads a text file; on Windows CR LF becomes "\n".
   bool readTextFile(const std::string& path, std::string* text, std::string* err);
 };

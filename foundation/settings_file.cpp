@@ -4,17 +4,6 @@
 #include "foundation/os.h"
 #include "foundation/regedit_text.h"
 
-namespace {
-
-bool makeParentDirectories(const std::string& path) {
-  std::string dir = directoryOf(path);
-  if (dir.empty() || os().exists(dir)) return true;
-  if (!makeParentDirectories(dir)) return false;
-  return os().makeDirectory(dir, nullptr);
-}
-
-}  // namespace
-
 bool SettingsFile::load(RegeditDocument* document) {
   document->keys.clear();
   if (!os().exists(path_)) {
@@ -59,8 +48,8 @@ bool SettingsFile::write(const std::string& keyPath, const std::string& name, co
   else
     key.values.push_back(RegeditValue{name, text});
   std::string why;
-  if (!makeParentDirectories(path_) || !os().writeFileAtomic(path_, formatRegedit(document), &why)) {
-    error_ = why.empty() ? "cannot create the folder of " + path_ : why;
+  if (!os().makeDirectories(directoryOf(path_), &why) || !os().writeFileAtomic(path_, formatRegedit(document), &why)) {
+    error_ = why;
     return false;
   }
   return true;

@@ -46,15 +46,7 @@ TempDir::~TempDir() { removeTree(path_); }
 
 void TempDir::write(const std::string& relative, const std::string& data) const {
   std::string full = file(relative);
-  std::string dir = directoryOf(full);
-  std::string walked;
-  // Create each missing folder below the temporary directory.
-  for (size_t at = path_.size() + 1; at <= dir.size(); ++at) {
-    if (at == dir.size() || dir[at] == '/' || dir[at] == kPathSeparator) {
-      walked = dir.substr(0, at);
-      if (!platformOs().exists(walked)) platformOs().makeDirectory(walked, nullptr);
-    }
-  }
+  platformOs().makeDirectories(directoryOf(full), nullptr);
   platformOs().writeFile(full, data, nullptr);
 }
 
