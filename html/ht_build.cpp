@@ -1,44 +1,20 @@
 // Finding and reading the sources of a documentation model.
 #include "html/ht_build.h"
 
-#include <unordered_map>
-
+#include "foundation/directory_walk.h"
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
 #include "html/ht_reader.h"
 
-namespace {
-
-class SourceFinder {
- public:
-  void find(const std::string& directory, const std::string& pattern, std::vector<std::string>* out) {
-    const std::vector<DirectoryEntry>& entries = listing(directory);
-    for (const DirectoryEntry& entry : entries)
-      if (!entry.attributes.isDirectory && entry.name[0] != '.' && matchesMask(entry.name, pattern))
-        out->push_back(joinPath(directory, entry.name));
-    for (const DirectoryEntry& entry : entries)
-      if (isWalkableDirectory(entry) && entry.name[0] != '.') find(joinPath(directory, entry.name), pattern, out);
-  }
-
- private:
-  // Each pattern walks the whole tree; listing it once keeps long filter lists cheap.
-  const std::vector<DirectoryEntry>& listing(const std::string& directory) {
-    auto found = listings_.find(directory);
-    if (found != listings_.end()) return found->second;
-    std::vector<DirectoryEntry>& entries = listings_[directory];
-    if (!os().listDirectory(directory, &entries, nullptr)) entries.clear();
-    return entries;
-  }
-
-  std::unordered_map<std::string, std::vector<DirectoryEntry>> listings_;
-};
-
-}  // namespace
-
 std::vector<std::string> findHtSourceFiles(const std::string& directory, const std::string& filters) {
-  SourceFinder finder;
+  // Each pattern walks the whole tree; the walker lists each directory once.
+  DirectoryWalker walker(true);
   std::vector<std::string> files;
-  for (const std::string& pattern : splitMasks(filters)) finder.find(directory, pattern, &files);
+  for (const std::string& pattern : splitMasks(filters))
+    walker.walk(directory, pattern, [&files](const std::string& path) {
+      if (fileNameOf(path)[0] != '.') files.push_back(path);
+      return true;
+    });
   return files;
 }
 

@@ -4,7 +4,7 @@
 #include <cctype>
 
 #include "ide/host.h"
-#include "navigation/directory_walk.h"
+#include "foundation/directory_walk.h"
 #include "navigation/line_match.h"
 #include "navigation/name_lines.h"
 #include "navigation/navigation_menus.h"

@@ -1,4 +1,4 @@
-// The walk of one search over a directory tree for the files of one mask.
+// The walk of a directory tree for the files of one mask, listing each directory once.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,5 @@
 // Files before subdirectories, as the searches have always reported their hits.
-#include "navigation/directory_walk.h"
+#include "foundation/directory_walk.h"
 
 #include "foundation/file_mask.h"
 
