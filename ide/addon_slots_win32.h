@@ -10,9 +10,11 @@
 
 class CompletionEngine;
 class HelpFile;
+class HookSet;
 class Mail;
 class ProjectTestA;
 class QuickFind;
+class RecentHeaders;
 class SourceScanner;
 class TaskList;
 
@@ -30,6 +32,8 @@ struct AddonSlots {
   ServiceHolder<IIdeNodeOptions>* options = nullptr;
   Mail* mail = nullptr;
   TaskList* tasks = nullptr;
+  HookSet* hooks = nullptr;
+  RecentHeaders* recentHeaders = nullptr;
 };
 
 AddonSlots& addon();
