@@ -25,22 +25,24 @@ TitleBarPlace placeOf(HWND editor, HDC dc, const TitleBarOptions& options) {
 
 }  // namespace
 
+POINT titleBarButtonsOrigin(HWND editor, const TitleBarOptions& options) {
+  WindowDc dc(editor);
+  const TitleBarPlace place = placeOf(editor, dc.get(), options);
+  return POINT{titleBarButtonsLeft(place) - place.left, titleBarLook(options.newShell).top};
+}
+
 void paintTitleBarButtons(HWND editor, const TitleBarOptions& options) {
+  const POINT origin = titleBarButtonsOrigin(editor, options);
   WindowDc dc(editor);
   if (!dc.get()) return;
-  TitleBarPlace place = placeOf(editor, dc.get(), options);
-  // Painting is in window coordinates.
-  place.right -= place.left;
-  place.left = 0;
-  place.top = 0;
   const TitleBarLook& look = titleBarLook(options.newShell);
-  int32_t x = titleBarButtonsLeft(place);
+  int32_t x = origin.x;
   MemoryDc memory(dc.get());
   for (int32_t button = 0; button < kTitleBarButtons; ++button, x += look.buttonWidth) {
     GdiObject<HBITMAP> bitmap(LoadBitmapA(options.module, titleBarBitmap(button)));
     if (!bitmap.get() || !memory.get()) continue;
     Selection selected(memory.get(), bitmap.get());
-    BitBlt(dc.get(), x, look.top, look.buttonWidth, look.buttonHeight, memory.get(), 0, 0, SRCCOPY);
+    BitBlt(dc.get(), x, origin.y, look.buttonWidth, look.buttonHeight, memory.get(), 0, 0, SRCCOPY);
   }
 }
 

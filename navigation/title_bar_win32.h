@@ -12,6 +12,9 @@ struct TitleBarOptions {
   bool leftSide;     // "LeftSide"
 };
 
+// Where button 0 is drawn, relative to the editor window's top-left corner.
+POINT titleBarButtonsOrigin(HWND editor, const TitleBarOptions& options);
+
 // Draws the buttons into the editor's title bar.
 void paintTitleBarButtons(HWND editor, const TitleBarOptions& options);
 
