@@ -20,36 +20,34 @@ class WindowDc {
   HDC dc_;
 };
 
-// A memory DC compatible with another.
-class MemoryDc {
+// A DC or GDI object released by Release with its owner.
+template <typename Handle, typename Release>
+class GdiHandle {
  public:
-  explicit MemoryDc(HDC like) : dc_(CreateCompatibleDC(like)) {}
-  ~MemoryDc() {
-    if (dc_) DeleteDC(dc_);
+  explicit GdiHandle(Handle handle) : handle_(handle) {}
+  ~GdiHandle() {
+    if (handle_) Release()(handle_);
   }
-  MemoryDc(const MemoryDc&) = delete;
-  MemoryDc& operator=(const MemoryDc&) = delete;
-  HDC get() const { return dc_; }
-
- private:
-  HDC dc_;
-};
-
-// A GDI object that is deleted with its owner (bitmaps, brushes, fonts).
-template <typename Handle>
-class GdiObject {
- public:
-  explicit GdiObject(Handle handle) : handle_(handle) {}
-  ~GdiObject() {
-    if (handle_) DeleteObject(handle_);
-  }
-  GdiObject(const GdiObject&) = delete;
-  GdiObject& operator=(const GdiObject&) = delete;
+  GdiHandle(const GdiHandle&) = delete;
+  GdiHandle& operator=(const GdiHandle&) = delete;
   Handle get() const { return handle_; }
 
  private:
   Handle handle_;
 };
+
+struct DeleteDc {
+  void operator()(HDC dc) const { DeleteDC(dc); }
+};
+struct DeleteGdiObject {
+  void operator()(HGDIOBJ object) const { DeleteObject(object); }
+};
+
+// A memory DC, made by CreateCompatibleDC.
+using MemoryDc = GdiHandle<HDC, DeleteDc>;
+// A bitmap, brush or font.
+template <typename Handle>
+using GdiObject = GdiHandle<Handle, DeleteGdiObject>;
 
 // An object selected into a DC until the end of the scope, when the one it
 // replaced goes back.

@@ -37,7 +37,7 @@ void paintTitleBarButtons(HWND editor, const TitleBarOptions& options) {
   if (!dc.get()) return;
   const TitleBarLook& look = titleBarLook(options.newShell);
   int32_t x = origin.x;
-  MemoryDc memory(dc.get());
+  MemoryDc memory(CreateCompatibleDC(dc.get()));
   for (int32_t button = 0; button < kTitleBarButtons; ++button, x += look.buttonWidth) {
     GdiObject<HBITMAP> bitmap(LoadBitmapA(options.module, titleBarBitmap(button)));
     if (!bitmap.get() || !memory.get()) continue;

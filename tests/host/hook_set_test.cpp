@@ -246,3 +246,18 @@ TEST_F(HookSetTest, KeyCaptureSwallowsEveryKey) {
   hooks.stopKeyCapture();
   EXPECT_EQ(commandsAfter([] { pressKey(VK_F5); }), std::vector<UINT>{190});
 }
+
+TEST_F(HookSetTest, BarFollowsTheFramesSizeAndActivation) {
+  HookSet hooks(bar_, client_);
+  ShowWindow(bar_, SW_SHOWNA);
+  SendMessageA(windows_.frame, WM_SIZE, SIZE_MINIMIZED, 0);
+  EXPECT_FALSE(IsWindowVisible(bar_));
+  SendMessageA(windows_.frame, WM_SIZE, SIZE_RESTORED, 0);
+  EXPECT_TRUE(IsWindowVisible(bar_));
+
+  auto topmost = [&] { return (GetWindowLongA(bar_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0; };
+  SendMessageA(windows_.frame, WM_ACTIVATE, WA_INACTIVE, 0);
+  EXPECT_FALSE(topmost()) << "the IDE went to the background";
+  SendMessageA(windows_.frame, WM_ACTIVATE, WA_ACTIVE, 0);
+  EXPECT_TRUE(topmost());
+}

@@ -82,7 +82,7 @@ void reportButtons(HMODULE module, TestIde* ide, const char* program) {
   report("originX", origin.x);
   report("originY", origin.y);
   WindowDc window(editor);
-  MemoryDc memory(window.get());
+  MemoryDc memory(CreateCompatibleDC(window.get()));
   for (int32_t button = 0; button < kTitleBarButtons; ++button) {
     GdiObject<HBITMAP> bitmap(LoadBitmapA(module, titleBarBitmap(button)));
     Selection selected(memory.get(), bitmap.get());
