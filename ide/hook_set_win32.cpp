@@ -97,9 +97,9 @@ LRESULT CALLBACK HookSet::keyboardHook(int code, WPARAM wParam, LPARAM lParam) {
 }
 
 bool HookSet::onMouse(UINT message, const MOUSEHOOKSTRUCT& mouse) {
+  if (message != WM_NCLBUTTONDOWN && message != WM_NCRBUTTONDOWN) return false;
   if (suspended_ || target_.popupOpen || !client_.navigationEnabled()) return false;
   HWND window = mouse.hwnd;
-  if (message != WM_NCLBUTTONDOWN && message != WM_NCRBUTTONDOWN) return false;
   if (!hasClass(window, kEditorClass) || !IsWindowEnabled(window)) return false;
   if (message == WM_NCRBUTTONDOWN) {
     target_.documentationTitle = documentationTitle(windowTitle(window, kDocumentationTitleLimit));

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ide/hook_set_win32.h"
+#include "ide/ide_windows_win32.h"
 #include "navigation/title_bar_win32.h"
 #include "test_ide.h"
 #include "ui_driver.h"
@@ -260,4 +261,16 @@ TEST_F(HookSetTest, BarFollowsTheFramesSizeAndActivation) {
   EXPECT_FALSE(topmost()) << "the IDE went to the background";
   SendMessageA(windows_.frame, WM_ACTIVATE, WA_ACTIVE, 0);
   EXPECT_TRUE(topmost());
+}
+
+TEST_F(HookSetTest, FindChildWindowByClassAndFileName) {
+  HWND other = windows_.openEditor("C:\\SRC\\MYFRAME.CPP");
+  HWND editor = windows_.openEditor("c:\\src\\frame.cpp:2");
+  EXPECT_EQ(findChildWindow(windows_.frame, "BCW5Editor", "FRAME.CPP"), editor);
+  EXPECT_EQ(findChildWindow(windows_.frame, "BCW5Editor", "MYFRAME.CPP"), other);
+  EXPECT_EQ(findChildWindow(windows_.frame, "BCW5Project", "FRAME.CPP"), nullptr) << "the class must match";
+  EXPECT_EQ(findChildWindow(windows_.frame, "MDIClient", nullptr), windows_.documents);
+  EXPECT_EQ(findChildWindow(windows_.frame, nullptr, "DEMO.IDE"), windows_.project);
+  EXPECT_EQ(ideDocuments(), windows_.documents);
+  EXPECT_EQ(activeEditor(), editor) << "the editor on top of the document area";
 }
