@@ -28,7 +28,7 @@ ScopedOs::ScopedOs(Os& replacement) : previous_(installed) { installed = &replac
 ScopedOs::~ScopedOs() { installed = previous_; }
 
 bool Os::writeFileAtomic(const std::string& path, const std::string& data, std::string* err) {
-  std::string temporary = path + ".kesto-tmp";
+  std::string temporary = temporaryPathFor(path);
   if (!writeFile(temporary, data, err)) {
     removeFile(temporary, nullptr);
     return false;
@@ -67,11 +67,18 @@ bool Os::makeDirectories(const std::string& path, std::string* err) {
   return makeDirectory(path, err);
 }
 
+std::string temporaryPathFor(const std::string& path) { return path + ".kesto-tmp"; }
+
 std::string joinPath(const std::string& dir, const std::string& name) {
   if (dir.empty()) return name;
   char last = dir.back();
   if (last == kPathSeparator || last == '/') return dir + name;
   return dir + kPathSeparator + name;
+}
+
+bool isAbsolutePath(const std::string& path) {
+  if (!path.empty() && (path[0] == '/' || path[0] == '\\')) return true;
+  return path.size() >= 2 && path[1] == ':';
 }
 
 std::string directoryOf(const std::string& path) {
