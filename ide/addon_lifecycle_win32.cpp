@@ -211,6 +211,8 @@ bool attachAddon(HINSTANCE instance) {
 }
 
 void detachAddon() {
+  // Unloaded without a shutdown, the add-on must not leave hooks into its unloaded code.
+  destroy(addon().hooks);
   destroy(addon().environment);
   setAlertHandler(nullptr);
   settings().setBackend(nullptr);
