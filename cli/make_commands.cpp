@@ -46,8 +46,7 @@ bool runBuild(const std::vector<std::string>& command) {
 
 void make(CliSession& session, const MakeArguments& args) {
   if (!session.requireProject()) return;
-  RcGenerator generator;
-  MakeSequence sequence(generator);
+  MakeSequence sequence;
   sequence.setOptions(readProjectOptions(*session.project(), settings().readInteger("TopBar", "Hierarchical", 0)));
   sequence.started(session.host());
   bool succeeded = args.command.empty() || runBuild(args.command);

@@ -3,8 +3,8 @@
 
 
 void MakeSequence::setOptions(const ProjectOptions& options) {
-  generator_.windowsGeneration = options.generateWindows;
-  generator_.versionGeneration = options.generateRc;
+  generator.windowsGeneration = options.generateWindows;
+  generator.versionGeneration = options.generateRc;
   htmlAutomatic_ = options.htmlEnabled != 0 && options.htmlAuto != 0;
   htmlFilters_ = options.htmlFilters;
 }
@@ -13,7 +13,7 @@ void MakeSequence::started(Host& host) {
   const std::string projectFile = host.projectFile();
   if (projectFile.empty()) return;
   RcRunReport report;
-  generator_.run(projectDirectoryOf(projectFile), &report);
+  generator.run(projectDirectoryOf(projectFile), &report);
   for (const std::string& error : report.errors) host.showStatus(error);
 }
 

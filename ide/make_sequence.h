@@ -15,7 +15,7 @@ using StartHtmlGeneration = std::function<void(const std::string& projectDirecto
 
 class MakeSequence {
  public:
-  explicit MakeSequence(RcGenerator& generator) : generator_(generator) {}
+  RcGenerator generator;  // its build number lives as long as the sequence
 
   // Takes the project's switches; called when a project opens and when its options change.
   void setOptions(const ProjectOptions& options);
@@ -27,7 +27,6 @@ class MakeSequence {
   void ended(Host& host, bool succeeded, const StartHtmlGeneration& startHtml);
 
  private:
-  RcGenerator& generator_;
   bool htmlAutomatic_ = false;
   std::string htmlFilters_;
 };
