@@ -24,6 +24,8 @@ const std::vector<CommandGroup>& commandGroups() {
        installDeliverCommand},
       {"delivery", "List the delivery groups (type, directory, state), or set one", installDeliveryCommands},
       {"make", "Run what the add-on does around a Make, with a build command in between", installMakeCommand},
+      {"recent", "List the top bar's recent projects and headers", installRecentCommand},
+      {"bar", "Print the top bar's menus for the project", installBarCommand},
   };
   return groups;
 }

@@ -37,3 +37,5 @@ void installMailCommands(CLI::App& command, CliSession& session);
 void installDeliverCommand(CLI::App& command, CliSession& session);
 void installDeliveryCommands(CLI::App& command, CliSession& session);
 void installMakeCommand(CLI::App& command, CliSession& session);
+void installRecentCommand(CLI::App& command, CliSession& session);
+void installBarCommand(CLI::App& command, CliSession& session);
