@@ -69,7 +69,8 @@ TEST(BarMenuTest, ATargetOfManyFilesBreaksIntoColumnsOfMenuSize) {
   BarMenuInputs inputs;
   inputs.recent = &recent;
   inputs.project = &project;
-  const std::vector<MenuItem>& files = buildBarMenu(inputs).bar.items[1].children;
+  BarMenu menu = buildBarMenu(inputs);
+  const std::vector<MenuItem>& files = menu.bar.items[1].children;
   ASSERT_EQ(files.size(), 120u);
   for (size_t i = 0; i < files.size(); ++i) EXPECT_EQ(files[i].columnBreak, i == 50 || i == 100) << i;
 }
