@@ -8,11 +8,7 @@ namespace {
 
 constexpr const char* kSection = "General";
 
-struct Field {
-  const char* key;
-  int32_t GeneralOptions::*value;
-};
-constexpr Field kFields[] = {
+constexpr IntegerSetting<GeneralOptions> kFields[] = {
     {"ClearOnMake", &GeneralOptions::clearOnMake},
     {"CloseOnMake", &GeneralOptions::closeOnMake},
     {"CloseProjectOnMake", &GeneralOptions::closeProjectOnMake},
@@ -27,13 +23,12 @@ constexpr Field kFields[] = {
 
 GeneralOptions GeneralOptions::read() {
   GeneralOptions options;
-  for (const Field& field : kFields)
-    options.*field.value = settings().readInteger(kSection, field.key, options.*field.value);
+  readIntegerSettings(kSection, kFields, &options);
   return options;
 }
 
 void GeneralOptions::write() const {
-  for (const Field& field : kFields) settings().writeInteger(kSection, field.key, this->*field.value);
+  writeIntegerSettings(kSection, kFields, *this);
 }
 
 bool AutoSaveCountdown::tick(const GeneralOptions& options) {

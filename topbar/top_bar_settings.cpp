@@ -8,11 +8,7 @@ namespace {
 constexpr const char* kSection = "TopBar";
 
 // Each field with its key, in the order the add-on writes them.
-struct Field {
-  const char* key;
-  int32_t TopBarSettings::*value;
-};
-constexpr Field kFields[] = {
+constexpr IntegerSetting<TopBarSettings> kFields[] = {
     {"Enabled", &TopBarSettings::enabled},         {"HideWithBCW", &TopBarSettings::hideWithIde},
     {"HideWithView", &TopBarSettings::hideWithView}, {"AlwaysOnTop", &TopBarSettings::alwaysOnTop},
     {"EditOtherView", &TopBarSettings::editOtherView}, {"LeftMargin", &TopBarSettings::leftMargin},
@@ -27,10 +23,10 @@ TopBarSettings TopBarSettings::read(bool newShell) {
   bar.newShell = newShell;
   bar.leftMargin = newShell ? -1 : 17;
   bar.rightMargin = newShell ? 58 : 37;
-  for (const Field& field : kFields) bar.*field.value = settings().readInteger(kSection, field.key, bar.*field.value);
+  readIntegerSettings(kSection, kFields, &bar);
   return bar;
 }
 
 void TopBarSettings::write() const {
-  for (const Field& field : kFields) settings().writeInteger(kSection, field.key, this->*field.value);
+  writeIntegerSettings(kSection, kFields, *this);
 }
