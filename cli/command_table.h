@@ -34,3 +34,8 @@ void installStampCommand(CLI::App& command, CliSession& session);
 void installTasksCommands(CLI::App& command, CliSession& session);
 void installFlashCommands(CLI::App& command, CliSession& session);
 void installMailCommands(CLI::App& command, CliSession& session);
+void installDeliverCommand(CLI::App& command, CliSession& session);
+void installDeliveryCommands(CLI::App& command, CliSession& session);
+void installMakeCommand(CLI::App& command, CliSession& session);
+void installRecentCommand(CLI::App& command, CliSession& session);
+void installBarCommand(CLI::App& command, CliSession& session);

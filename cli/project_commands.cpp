@@ -14,6 +14,8 @@ struct ProjectArguments {
   std::string file;
   std::string name;
   std::string value;
+  std::string type;
+  std::string parent;
 };
 
 // Records the options in the order that saving writes them.
@@ -100,6 +102,17 @@ void set(CliSession& session, const ProjectArguments& args) {
   }
 }
 
+// Applies edit to the project's tree and saves the file.
+template <typename Edit>
+void editTree(CliSession& session, Edit edit) {
+  if (!session.requireProject()) return;
+  std::string err;
+  if (!edit(*session.project(), &err) || !session.project()->save(&err)) {
+    reportError(err);
+    session.exitStatus = kExitNothing;
+  }
+}
+
 }  // namespace
 
 void installProjectCommands(CLI::App& command, CliSession& session) {
@@ -117,4 +130,20 @@ void installProjectCommands(CLI::App& command, CliSession& session) {
   setCommand->add_option("name", args->name, "Option name, such as Kesto_HIERARCH")->required();
   setCommand->add_option("value", args->value, "Value; texts are stored with their marker")->required();
   setCommand->callback([&session, args] { set(session, *args); });
+
+  CLI::App* addCommand = command.add_subcommand("add", "Add a node under the top node or under --parent");
+  addCommand->add_option("name", args->name, "The node's file, relative to the project or absolute")->required();
+  addCommand->add_option("--type", args->type, "Node type, such as .exe or .cpp")->required();
+  addCommand->add_option("--parent", args->parent, "Name of the node to add it under (default: the top node)");
+  addCommand->callback([&session, args] {
+    editTree(session, [args](KpjProject& project, std::string* err) {
+      return project.addNode(args->parent, args->name, args->type, err);
+    });
+  });
+
+  CLI::App* removeCommand = command.add_subcommand("remove", "Remove the first node of that name and its children");
+  removeCommand->add_option("name", args->name, "Name of the node")->required();
+  removeCommand->callback([&session, args] {
+    editTree(session, [args](KpjProject& project, std::string* err) { return project.removeNode(args->name, err); });
+  });
 }

@@ -9,12 +9,15 @@
 #include "ide/tool_table.h"
 
 class CompletionEngine;
+class DelivTool;
+class Delivery;
+class MakeSequence;
 class HelpFile;
 class HookSet;
 class Mail;
 class ProjectTestA;
 class QuickFind;
-class RecentHeaders;
+class RecentFiles;
 class SourceScanner;
 class TaskList;
 
@@ -32,8 +35,11 @@ struct AddonSlots {
   ServiceHolder<IIdeNodeOptions>* options = nullptr;
   Mail* mail = nullptr;
   TaskList* tasks = nullptr;
+  MakeSequence* makeSequence = nullptr;
+  Delivery* delivery = nullptr;
+  DelivTool* delivTool = nullptr;  // one reference ours; the tool service holds another while registered
   HookSet* hooks = nullptr;
-  RecentHeaders* recentHeaders = nullptr;
+  RecentFiles* recentFiles = nullptr;
 };
 
 AddonSlots& addon();

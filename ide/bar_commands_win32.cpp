@@ -1,36 +1,31 @@
-// The table of the bar's command ranges and their owners.
+// The bar's commands handed to their owners, by the portable command table.
 #include "ide/bar_commands_win32.h"
 
-#include "ide/hook_set_win32.h"
 #include "navigation/navigation_commands_win32.h"
 #include "navigation/navigation_menus.h"
-
-namespace {
-
-struct BarCommand {
-  UINT first;
-  UINT last;
-  bool (*run)(HWND bar, UINT id, LPARAM lParam);
-};
-
-const BarCommand kCommands[] = {
-    {kPaintButtonsCommand, kPaintButtonsCommand, paintButtonsCommand},
-    {kEditDocumentationId, kEditDocumentationId, editDocumentationCommand},
-    {kMethodResultsId, kMethodResultsId, methodResultsCommand},
-    {kIncludesButtonCommand, kFunctionsButtonCommand, titleBarPopupCommand},
-    {kFindFunctionId, kCrossReferenceId, quickFindCommand},
-    {kCaptionRightClickCommand, kCaptionRightClickCommand, titleBarPopupCommand},
-    {kFirstIncludeId, kFirstIncludeId + 99, includeChosenCommand},
-    {kFirstResultId, kFirstResultId + 99, resultChosenCommand},
-    {kFirstFunctionId, 9999, functionChosenCommand},
-};
-
-}  // namespace
+#include "topbar/bar_commands.h"
 
 bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
-  for (const BarCommand& command : kCommands)
-    if (id >= command.first && id <= command.last) return command.run(bar, id, lParam);
-  return false;
+  switch (barCommandFor(id, nullptr)) {
+    case BarCommand::PaintButtons:
+      return paintButtonsCommand(bar, id, lParam);
+    case BarCommand::TitleBarPopup:
+      return id == kEditDocumentationId ? editDocumentationCommand(bar, id, lParam)
+                                        : titleBarPopupCommand(bar, id, lParam);
+    case BarCommand::MethodResults:
+      return methodResultsCommand(bar, id, lParam);
+    case BarCommand::QuickFind:
+      return quickFindCommand(bar, id, lParam);
+    case BarCommand::Include:
+      return includeChosenCommand(bar, id, lParam);
+    case BarCommand::QuickFindResult:
+      return resultChosenCommand(bar, id, lParam);
+    case BarCommand::Function:
+      return functionChosenCommand(bar, id, lParam);
+    default:
+      // The other features' commands reach them as they come.
+      return false;
+  }
 }
 
 bool dispatchBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -9,7 +9,7 @@
 #include "ide/ide_host_win32.h"
 #include "ide/ide_windows_win32.h"
 #include "ide/tool_table.h"
-#include "topbar/recent_headers.h"
+#include "topbar/recent_files.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ bool openFileInIde(const std::string& path) {
 
 bool openAndRecord(const std::string& path) {
   if (!openFileInIde(path)) return false;
-  if (addon().recentHeaders) addon().recentHeaders->record(path);
+  if (addon().recentFiles) addon().recentFiles->rememberHeader(withoutLineSuffix(path));
   return true;
 }
 
