@@ -4,10 +4,11 @@
 
 #include <windows.h>
 
-// The DC of a whole window, non-client area included.
+// A DC borrowed from a window, by GetDC (client area) or GetWindowDC (the
+// whole window), and released to it.
 class WindowDc {
  public:
-  explicit WindowDc(HWND window) : window_(window), dc_(GetWindowDC(window)) {}
+  WindowDc(HWND window, HDC dc) : window_(window), dc_(dc) {}
   ~WindowDc() {
     if (dc_) ReleaseDC(window_, dc_);
   }

@@ -26,14 +26,14 @@ TitleBarPlace placeOf(HWND editor, HDC dc, const TitleBarOptions& options) {
 }  // namespace
 
 POINT titleBarButtonsOrigin(HWND editor, const TitleBarOptions& options) {
-  WindowDc dc(editor);
+  WindowDc dc(editor, GetWindowDC(editor));
   const TitleBarPlace place = placeOf(editor, dc.get(), options);
   return POINT{titleBarButtonsLeft(place) - place.left, titleBarLook(options.newShell).top};
 }
 
 void paintTitleBarButtons(HWND editor, const TitleBarOptions& options) {
   const POINT origin = titleBarButtonsOrigin(editor, options);
-  WindowDc dc(editor);
+  WindowDc dc(editor, GetWindowDC(editor));
   if (!dc.get()) return;
   const TitleBarLook& look = titleBarLook(options.newShell);
   int32_t x = origin.x;
@@ -47,7 +47,7 @@ void paintTitleBarButtons(HWND editor, const TitleBarOptions& options) {
 }
 
 int32_t hitTitleBarButton(HWND editor, const TitleBarOptions& options, POINT point, POINT* popup) {
-  WindowDc dc(editor);
+  WindowDc dc(editor, GetWindowDC(editor));
   const TitleBarPlace place = placeOf(editor, dc.get(), options);
   ScreenPoint at = {};
   const int32_t button = hitTitleBarButton(place, GetSystemMetrics(SM_CYCAPTION), point.x, point.y, &at);

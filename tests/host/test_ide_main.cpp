@@ -81,7 +81,7 @@ void reportButtons(HMODULE module, TestIde* ide, const char* program) {
   report("newShell", environment.newShell);
   report("originX", origin.x);
   report("originY", origin.y);
-  WindowDc window(editor);
+  WindowDc window(editor, GetWindowDC(editor));
   MemoryDc memory(CreateCompatibleDC(window.get()));
   for (int32_t button = 0; button < kTitleBarButtons; ++button) {
     GdiObject<HBITMAP> bitmap(LoadBitmapA(module, titleBarBitmap(button)));
