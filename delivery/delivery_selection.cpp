@@ -49,10 +49,6 @@ bool needsDelivery(const std::string& source, const std::string& directory) {
   return !delivered || !sameContents(*in, *delivered);
 }
 
-std::string projectPath(const std::string& projectDirectory, const std::string& name) {
-  return isAbsolutePath(name) ? name : joinPath(projectDirectory, name);
-}
-
 bool selectDeliveries(Tableau<OneDelRep>& groups, const ProjectNode* root, const std::string& projectDirectory,
                       Tableau<Livrage>* deliveries) {
   deliveries->clear();

@@ -23,10 +23,6 @@ class Livrage : public Basic {
 // is never delivered; a copy that cannot be read is delivered again.
 bool needsDelivery(const std::string& source, const std::string& directory);
 
-// A node's file or a group's directory: relative names are taken from the
-// project directory, which is the IDE's current directory while a project is open.
-std::string projectPath(const std::string& projectDirectory, const std::string& name);
-
 // Rebuilds the groups and fills deliveries with the files of active groups that
 // need delivery. False (deliveries empty) after showing "Directory ... does not
 // exist !" for the first group whose directory is missing.

@@ -23,6 +23,7 @@
 #include "navigation/source_scanner.h"
 #include "tasks/task_list.h"
 #include "topbar/recent_files.h"
+#include "topbar/top_bar_win32.h"
 
 namespace {
 
@@ -113,9 +114,7 @@ void createToolTable(IIdeRoot*) {
 }
 
 void showBar(IIdeRoot*) {
-  // Stands in for the top bar settings object until it exists: same key, same default.
-  const bool visible = settings().readInteger("TopBar", "Enabled", 1) != 0;
-  ShowWindow(addon().bar, visible ? SW_SHOW : SW_HIDE);
+  if (addon().topBar) ShowWindow(addon().bar, addon().topBar->settings.enabled ? SW_SHOW : SW_HIDE);
 }
 
 void createOptionsHolder(IIdeRoot*) {
@@ -134,7 +133,10 @@ const Step kInitialisation[] = {
     {"create the help file, given the bar", createHelpFile},
     {"create the editor navigation, given the bar and the new-shell flag",
      [](IIdeRoot*) { create<SourceScanner>(addon().navigation, nullptr); }},
-    {"create the top bar settings, given the new-shell flag and the bar", nullptr},
+    {"create the top bar settings, given the new-shell flag and the bar",
+     [](IIdeRoot*) {
+       if (addon().bar) addon().topBar = new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0);
+     }},
     {"create the completion engine", createCompletion},
     {"create the general behaviours", [](IIdeRoot*) { create<MakeSequence>(addon().makeSequence, nullptr); }},
     {"create the delivery object", [](IIdeRoot*) { create<Delivery>(addon().delivery, nullptr); }},
@@ -159,6 +161,11 @@ const Step kInitialisation[] = {
     {"create the groupware settings", nullptr},
     {"create the HTML settings", nullptr},
     {"create the groupware project object, given the project service", nullptr},
+    // The start-up menu stays until the IDE's message loop runs the first rebuild.
+    {"ask the bar to build its menus",
+     [](IIdeRoot*) {
+       if (addon().bar) PostMessageA(addon().bar, WM_COMMAND, static_cast<WPARAM>(kRebuildMenuCommand), 0);
+     }},
 };
 
 const Step kShutdown[] = {
@@ -170,7 +177,7 @@ const Step kShutdown[] = {
     {"delete the help file", [](IIdeRoot*) { destroy(addon().helpFile); }},
     {"delete the editor navigation",
      [](IIdeRoot*) { saveAndDestroy(addon().navigation, &SourceScanner::writeSettings); }},
-    {"delete the top bar settings", nullptr},
+    {"delete the top bar settings", [](IIdeRoot*) { destroy(addon().topBar); }},
     {"delete the completion engine",
      [](IIdeRoot*) { saveAndDestroy(addon().completion, &CompletionEngine::writeSettings); }},
     {"release the editor service", [](IIdeRoot*) { destroy(addon().editor); }},

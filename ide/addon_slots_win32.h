@@ -20,6 +20,7 @@ class QuickFind;
 class RecentFiles;
 class SourceScanner;
 class TaskList;
+class TopBar;
 
 struct AddonSlots {
   AddonEnvironment* environment = nullptr;
@@ -40,6 +41,7 @@ struct AddonSlots {
   DelivTool* delivTool = nullptr;  // one reference ours; the tool service holds another while registered
   HookSet* hooks = nullptr;
   RecentFiles* recentFiles = nullptr;
+  TopBar* topBar = nullptr;
 };
 
 AddonSlots& addon();

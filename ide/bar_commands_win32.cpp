@@ -1,12 +1,27 @@
 // The bar's commands handed to their owners, by the portable command table.
 #include "ide/bar_commands_win32.h"
 
+#include "ide/addon_slots_win32.h"
+#include "ide/hook_set_win32.h"
+#include "topbar/top_bar_win32.h"
+
 #include "navigation/navigation_commands_win32.h"
 #include "navigation/navigation_menus.h"
 #include "topbar/bar_commands.h"
 
+namespace {
+
+bool titleBarPopupOpen() { return addon().hooks && addon().hooks->target().popupOpen; }
+
+}  // namespace
+
 bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
-  switch (barCommandFor(id, nullptr)) {
+  uint32_t index = 0;
+  const BarCommand command = barCommandFor(id, &index);
+  // Painting the buttons comes from the hooks while a menu may be open.
+  if (addon().topBar && command != BarCommand::PaintButtons) addon().topBar->collapse();
+  if (addon().topBar && addon().topBar->runCommand(command, index)) return true;
+  switch (command) {
     case BarCommand::PaintButtons:
       return paintButtonsCommand(bar, id, lParam);
     case BarCommand::TitleBarPopup:
@@ -32,6 +47,20 @@ bool dispatchBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
   const int line = static_cast<int>(wParam);
   const char* path = reinterpret_cast<const char*>(lParam);
   switch (message) {
+    case WM_INITMENU:
+      if (addon().topBar && !titleBarPopupOpen()) addon().topBar->expand();
+      return false;
+    case WM_MENUSELECT:
+      // Popups, separators and the title-bar popups have no status text.
+      if (addon().topBar && !titleBarPopupOpen() && !(HIWORD(wParam) & (MF_POPUP | MF_SEPARATOR)) &&
+          !(HIWORD(wParam) == 0xFFFF && lParam == 0))
+        addon().topBar->showItemStatus(LOWORD(wParam));
+      return false;
+    case WM_ACTIVATE:
+      // The bar never keeps the focus: a click hands activation back.
+      if (LOWORD(wParam) == WA_CLICKACTIVE && lParam) SetActiveWindow(reinterpret_cast<HWND>(lParam));
+      if (LOWORD(wParam) == WA_INACTIVE && addon().topBar) addon().topBar->collapse();
+      return false;
     case kGoToLineMessage:
       goToFoundLine(line, path);
       return true;

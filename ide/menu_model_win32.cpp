@@ -38,6 +38,12 @@ OwnedMenu buildPopupMenu(const MenuModel& model) {
   return menu;
 }
 
+OwnedMenu buildMenuBar(const MenuModel& model) {
+  OwnedMenu menu(CreateMenu());
+  if (menu.get() && !appendItems(menu.get(), model.items)) return OwnedMenu();
+  return menu;
+}
+
 bool trackPopupMenu(const MenuModel& model, int x, int y, HWND owner) {
   OwnedMenu menu = buildPopupMenu(model);
   if (!menu.get()) return false;

@@ -36,6 +36,9 @@ class OwnedMenu {
 // one. Popups become submenus, column breaks start a column with a bar.
 OwnedMenu buildPopupMenu(const MenuModel& model);
 
+// A menu bar holding the model's items (its popups become the bar's menus).
+OwnedMenu buildMenuBar(const MenuModel& model);
+
 // Shows the model as a popup at the screen point (x, y) and waits until it is
 // closed; the chosen item's command arrives at owner as WM_COMMAND. False when
 // the menu could not be built.

@@ -17,11 +17,16 @@
 #include "ide/ide_host_win32.h"
 #include "ide/make_client_win32.h"
 #include "ide/make_sequence.h"
+#include "topbar/recent_files.h"
+#include "topbar/top_bar_win32.h"
 #include "tasks/task_list.h"
 
 namespace {
 
 std::unique_ptr<ProjectOptions> gOpenProject;
+std::string gProjectFile;  // the open project's, for the recent list when it closes
+
+void readOpenProject(const std::string& projectFile);
 
 void emptyTasks() {
   if (!addon().tasks) return;
@@ -58,6 +63,29 @@ void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
   const std::string projectFile = ideHost().projectFile();
   // The IDE may tell of a project that it did not load.
   if (projectFile.empty()) return;
+  gProjectFile = projectFile;
+  if (addon().topBar) addon().topBar->collapse();
+  // The open project is never offered as a recent one.
+  if (addon().recentFiles) addon().recentFiles->forgetProject(projectFile);
+  readOpenProject(projectFile);
+  if (addon().topBar) addon().topBar->rebuildMenu();
+}
+
+void __stdcall ProjectClientImpl::ProjectClosed() {
+  if (addon().topBar) addon().topBar->collapse();
+  if (!gOpenProject) return;
+  unregisterMakeClient();
+  if (addon().delivTool) addon().delivTool->unregisterTool();
+  if (addon().delivery) addon().delivery->groups.clear();
+  if (addon().mail) addon().mail->setRecipients({});
+  if (addon().recentFiles) addon().recentFiles->rememberProject(gProjectFile);
+  gOpenProject.reset();
+  if (addon().topBar) addon().topBar->rebuildMenu();
+}
+
+namespace {
+
+void readOpenProject(const std::string& projectFile) {
   if (addon().tasks) {
     addon().tasks->filePath = projectFile + ".tsk";
     addon().tasks->load();
@@ -75,14 +103,7 @@ void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
   if (addon().mail) addon().mail->setRecipients(gOpenProject->mailRecipients);
 }
 
-void __stdcall ProjectClientImpl::ProjectClosed() {
-  if (!gOpenProject) return;
-  unregisterMakeClient();
-  if (addon().delivTool) addon().delivTool->unregisterTool();
-  if (addon().delivery) addon().delivery->groups.clear();
-  if (addon().mail) addon().mail->setRecipients({});
-  gOpenProject.reset();
-}
+}  // namespace
 
 void __stdcall ProjectClientImpl::NodeChanged(IdeHandle) {}
 

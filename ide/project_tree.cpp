@@ -33,6 +33,10 @@ std::string projectDirectoryOf(const std::string& projectFile) {
   return directory.empty() ? os().currentDirectory() : directory;
 }
 
+std::string projectPath(const std::string& projectDirectory, const std::string& name) {
+  return isAbsolutePath(name) ? name : joinPath(projectDirectory, name);
+}
+
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name) {
   if (root.name == name) return &root;
   for (const ProjectNode& child : root.nodes)

@@ -25,6 +25,10 @@ const ProjectNode* findNodeHoldingFile(const ProjectNode& root, const std::strin
 // The directory of a project file; the current directory when the path names none.
 std::string projectDirectoryOf(const std::string& projectFile);
 
+// A node's file or a directory option: relative names are taken from the
+// project directory, which is the IDE's current directory while a project is open.
+std::string projectPath(const std::string& projectDirectory, const std::string& name);
+
 // The first node of that name, depth-first; null when none.
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name);
 

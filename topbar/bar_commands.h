@@ -32,6 +32,8 @@ enum class BarCommand {
   None,                // no case in the dispatch
 };
 
+constexpr uint32_t kRebuildMenuCommand = 103;
+
 struct BarCommandEntry {
   uint32_t first;
   uint32_t last;
