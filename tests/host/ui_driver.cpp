@@ -34,8 +34,9 @@ void describeItems(HMENU menu, const std::string& indent, std::string* out) {
   for (int i = 0; i < GetMenuItemCount(menu); ++i) {
     char text[256] = {};
     GetMenuStringA(menu, static_cast<UINT>(i), text, sizeof text, MF_BYPOSITION);
-    const UINT state = GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION);
     HMENU submenu = GetSubMenu(menu, i);
+    // A submenu's item count fills the high byte, over the flags' bits.
+    const UINT state = GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & (submenu ? 0xFF : ~0u);
     if (state & (MF_MENUBARBREAK | MF_MENUBREAK)) *out += indent + "--\n";
     if (state & MF_SEPARATOR) {
       *out += indent + "-\n";

@@ -1,0 +1,124 @@
+// The top bar in the IDE: its menus in both constructions, expansion while a
+// menu is open, the status texts, and the recent projects across two loads.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "addon_loader.h"
+#include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
+#include "ui_driver.h"
+
+namespace {
+
+const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
+const std::string kProject = windowsPath(KESTO_HOST_WORK_DIR) + "\\BIG.IDE";
+
+int countLines(const std::string& text, const std::string& line) {
+  int count = 0;
+  for (size_t at = text.find(line); at != std::string::npos; at = text.find(line, at + 1)) ++count;
+  return count;
+}
+
+int barHeight() {
+  RECT rect;
+  GetWindowRect(FindWindowA("KADO", nullptr), &rect);
+  return rect.bottom - rect.top;
+}
+
+std::string barMenu() { return describeWin32Menu(GetMenu(FindWindowA("KADO", nullptr))); }
+
+class TopBarTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+    ide_.project.projectFile = kProject;
+    const IdeHandle top = ide_.project.addNode(0, "big.ide", ".ide");
+    const IdeHandle target = ide_.project.addNode(top, "c:\\big\\big.exe", ".exe");
+    for (int i = 0; i < 120; ++i) ide_.project.addNode(target, "file" + std::to_string(i) + ".cpp", ".cpp");
+    const IdeHandle library = ide_.project.addNode(target, "util.lib", ".lib");
+    ide_.project.addNode(library, "util.cpp", ".cpp");
+  }
+
+  // Tracks the bar's menu number index as a popup, with a screenshot of it.
+  void showBarMenu(int index, const std::string& screenshot) {
+    ModalDriver driver;
+    driver.menuScreenshot = screenshot;
+    TrackPopupMenu(GetSubMenu(GetMenu(FindWindowA("KADO", nullptr)), index), TPM_LEFTALIGN, 40, 30, 0,
+                   FindWindowA("KADO", nullptr), nullptr);
+  }
+
+  TestIde ide_;
+};
+
+TEST_F(TopBarTest, MenusFollowTheProjectInBothConstructions) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  pumpMessages(200);
+  EXPECT_EQ(barMenu(), "Kesto\n  Last Includes\n  -\n  199 Options...\n  196 Help...\n")
+      << "without a project only the Kesto menu, once the start-up menu is replaced";
+
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  std::string linear = barMenu();
+  EXPECT_NE(linear.find("  300 run big.exe\n"), std::string::npos) << linear;
+  EXPECT_NE(linear.find("\nbig.exe\n  10000 file0.cpp\n"), std::string::npos) << linear;
+  EXPECT_NE(linear.find("\nutil.lib\n  10120 util.cpp\n"), std::string::npos) << "a nested target on the bar";
+  EXPECT_EQ(countLines(linear, "\n  --\n"), 2) << "120 files in columns of 50, 50 and 20";
+  showBarMenu(1, "top-bar-linear-files");
+
+  ide_.project.clients[0]->ProjectClosed();
+  ide_.nodeOptions.projectOptions["Kesto_HIERARCH"] = std::string("\x01\0\0\0", 4);
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  std::string nested = barMenu();
+  EXPECT_NE(nested.find("\nbig.exe\n  10000 file0.cpp\n"), std::string::npos) << nested;
+  EXPECT_NE(nested.find("\n  util.lib\n    10120 util.cpp\n"), std::string::npos) << "nested in its parent";
+  EXPECT_EQ(nested.find("\nutil.lib"), std::string::npos);
+  showBarMenu(1, "top-bar-hierarchical-files");
+
+  // The status line names the highlighted item.
+  const size_t before = ide_.statusLine.texts.size();
+  SendMessageA(FindWindowA("KADO", nullptr), WM_MENUSELECT, MAKEWPARAM(10001, MF_STRING), 0);
+  ASSERT_GT(ide_.statusLine.texts.size(), before);
+  EXPECT_EQ(ide_.statusLine.texts.back(), "Open file1.cpp");
+
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(TopBarTest, ExpandsToEveryRowWhileAMenuIsOpenAndRemembersProjectsAcrossLoads) {
+  MessageBoxWatchdog watchdog;
+  // Many targets wrap the menu bar on several rows.
+  const IdeHandle top = 1;
+  for (int i = 0; i < 30; ++i) {
+    const IdeHandle target = ide_.project.addNode(top, "target-number-" + std::to_string(i) + ".dll", ".dll");
+    ide_.project.addNode(target, "part" + std::to_string(i) + ".cpp", ".cpp");
+  }
+  {
+    LoadedAddon addon(kAddon);
+    ASSERT_TRUE(addon.start(&ide_));
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+    const int normal = barHeight();
+    SendMessageA(FindWindowA("KADO", nullptr), WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(FindWindowA("KADO", nullptr))), 0);
+    const int expanded = barHeight();
+    EXPECT_GE(expanded, normal + 2 * GetSystemMetrics(SM_CYMENU)) << "every row of the wrapped bar shows";
+    saveScreenshot("top-bar-expanded");
+    SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, 103, 0);
+    EXPECT_EQ(barHeight(), normal) << "a command collapses the bar";
+    saveScreenshot("top-bar-collapsed");
+    ide_.project.clients[0]->ProjectClosed();
+    addon.stop();
+  }
+  TestIde again;
+  {
+    LoadedAddon addon(kAddon);
+    ASSERT_TRUE(addon.start(&again));
+    pumpMessages(200);
+    EXPECT_EQ(barMenu().rfind("Kesto\n  200 BIG.IDE\n  -\n", 0), 0u) << barMenu();
+    addon.stop();
+  }
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+}  // namespace
