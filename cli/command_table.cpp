@@ -20,6 +20,7 @@ const std::vector<CommandGroup>& commandGroups() {
       {"tasks", "List, add, edit, remove and sort the project's tasks; today's report", installTasksCommands},
       {"flash", "Print today's report and mark the day as flashed", installFlashCommands},
       {"mail", "The project's mail recipients, and a mail by hand", installMailCommands},
+      {"gw", "Exchange files with the project's groupware server: send, get, locks", installGroupwareCommands},
   };
   return groups;
 }

@@ -34,3 +34,4 @@ void installStampCommand(CLI::App& command, CliSession& session);
 void installTasksCommands(CLI::App& command, CliSession& session);
 void installFlashCommands(CLI::App& command, CliSession& session);
 void installMailCommands(CLI::App& command, CliSession& session);
+void installGroupwareCommands(CLI::App& command, CliSession& session);

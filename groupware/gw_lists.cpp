@@ -18,11 +18,18 @@ GwCopy readCopy(const std::string& path) {
   return copy;
 }
 
+// A path of the tree kept inside the scanned one; when the other tree holds
+// the scanned one, every path is below it and none is left out.
+bool inOtherTree(const std::string& path, const std::string& own, const std::string& other) {
+  return isBelowRoot(other, path) && !isBelowRoot(other, own);
+}
+
 }  // namespace
 
 void fillSendList(GWsendList& list, const GwRoots& roots, const std::string& filters) {
   list.clear();
   scanTree(roots.project, filters, [&](const std::string& path) {
+    if (inOtherTree(path, roots.project, roots.server)) return;
     GwCopy local = readCopy(path);
     // Read-only local copies are reference copies: never sent.
     if (!local.exists || !local.writable) return;
@@ -42,6 +49,7 @@ void fillSendList(GWsendList& list, const GwRoots& roots, const std::string& fil
 void fillGetList(GWgetList& list, const GwRoots& roots, const std::string& filters) {
   list.clear();
   scanTree(roots.server, filters, [&](const std::string& path) {
+    if (inOtherTree(path, roots.server, roots.project)) return;
     GwCopy server = readCopy(path);
     if (!server.exists) return;
     GwCopy local = readCopy(joinPath(roots.project, listedName(roots.server, path)));

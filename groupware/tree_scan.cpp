@@ -33,3 +33,8 @@ std::string listedName(const std::string& root, const std::string& path) {
   if (cut < path.size() && isSeparator(path[cut])) ++cut;
   return path.substr(cut);
 }
+
+bool isBelowRoot(const std::string& root, const std::string& path) {
+  return path.size() > root.size() && path.compare(0, root.size(), root) == 0 &&
+         (isSeparator(path[root.size()]) || isSeparator(root.back()));
+}

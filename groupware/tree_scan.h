@@ -16,5 +16,9 @@ void scanTree(const std::string& root, const std::string& filters,
 // name is what follows the root and one separator.
 std::string normalizeRoot(const std::string& root);
 
+// Whether path lies below root (normalized): a server directory kept inside
+// the project directory, or the reverse, is not part of the other's scan.
+bool isBelowRoot(const std::string& root, const std::string& path);
+
 // The path with root and the following separator cut off; root must be normalized.
 std::string listedName(const std::string& root, const std::string& path);
