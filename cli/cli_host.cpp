@@ -11,14 +11,25 @@
 #include "cli/sendmail_transport.h"
 #include "foundation/os.h"
 
-void CliHost::showStatus(const std::string& text) { std::cerr << text << '\n'; }
+void CliHost::showStatus(const std::string& text) {
+  if (progress_) progress_->interrupt();
+  std::cerr << text << '\n';
+}
 
 // A terminal has no use for the IDE's beeps: the status text says it all.
 void CliHost::beep(unsigned, unsigned) {}
 
 void CliHost::setBusy(bool) {}
 
+void CliHost::showProgress(uint64_t done, uint64_t total, const std::string& item) {
+  if (!progress_ && isatty(STDERR_FILENO)) progress_ = std::make_unique<ProgressBar>();
+  if (progress_) progress_->show(item, done, total);
+}
+
+void CliHost::endProgress() { progress_.reset(); }
+
 Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, const std::string& text) {
+  if (progress_) progress_->interrupt();
   std::cout << text << '\n';
   return ++lastMessage_;
 }

@@ -1,8 +1,10 @@
 // The Host of the command-line host: standard streams and the project file.
 #pragma once
 
+#include <memory>
 #include <string>
 
+#include "cli/progress_bar.h"
 #include "foundation/alert.h"
 #include "ide/host.h"
 
@@ -19,6 +21,9 @@ class CliHost : public Host, public AlertHandler {
   void showStatus(const std::string& text) override;
   void beep(unsigned frequencyHz, unsigned durationMs) override;
   void setBusy(bool busy) override;
+  // A bar on a terminal, nothing when standard error is piped.
+  void showProgress(uint64_t done, uint64_t total, const std::string& item) override;
+  void endProgress() override;
   MessageHandle addMessage(const MessageGroup& group, MessageHandle parent, const std::string& text) override;
   MessageHandle addLocatedMessage(const MessageGroup& group, MessageHandle parent, const std::string& text,
                                   const std::string& file, int32_t line, uint16_t column, int32_t kind) override;
@@ -38,4 +43,5 @@ class CliHost : public Host, public AlertHandler {
  private:
   KpjProject* project_ = nullptr;
   MessageHandle lastMessage_ = 0;
+  std::unique_ptr<ProgressBar> progress_;
 };

@@ -7,6 +7,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/progress_bar.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
 #include "html/ht_generation.h"
@@ -18,30 +19,6 @@ struct HtmlArguments {
   std::string filters;
   std::string name;
   bool open = false;
-};
-
-// A one-line bar on standard error, redrawn only when its width of dashes changes.
-class ProgressBar {
- public:
-  static constexpr int kWidth = 40;
-
-  void show(const char* phase, size_t done, size_t total) {
-    int filled = total == 0 ? kWidth : static_cast<int>(done * kWidth / total);
-    if (filled == lastFilled_ && phase == lastPhase_) return;
-    lastFilled_ = filled;
-    lastPhase_ = phase;
-    std::fprintf(stderr, "\r%-8s [%s%s] %zu/%zu", phase, std::string(filled, '#').c_str(),
-                 std::string(kWidth - filled, ' ').c_str(), done, total);
-    std::fflush(stderr);
-  }
-
-  ~ProgressBar() {
-    if (lastFilled_ >= 0) std::fprintf(stderr, "\r%s\r", std::string(kWidth + 40, ' ').c_str());
-  }
-
- private:
-  int lastFilled_ = -1;
-  const char* lastPhase_ = nullptr;
 };
 
 // The name a directory goes by: its last component, that of the current directory for ".".

@@ -1,4 +1,5 @@
-// STAND-IN until the shared copy routine lands on main; deleted at that merge.
+// The copy routine of delivery and groupware: block by block with progress,
+// and never a half-written target.
 #pragma once
 
 #include <cstdint>
@@ -6,11 +7,15 @@
 
 #include "ide/host.h"
 
+// One progress display for an action that copies several files.
 class CopyProgress {
  public:
-  CopyProgress(Host& host, uint64_t total) : host_(host), total_(total) {}
-  ~CopyProgress() {}
-  void advance(uint64_t bytes, const std::string&) { done_ += bytes; }
+  CopyProgress(Host& host, uint64_t total);  // total: bytes of the whole action
+  ~CopyProgress();                           // the host removes its display
+  CopyProgress(const CopyProgress&) = delete;
+  CopyProgress& operator=(const CopyProgress&) = delete;
+
+  void advance(uint64_t bytes, const std::string& item);
   uint64_t done() const { return done_; }
 
  private:
@@ -21,5 +26,17 @@ class CopyProgress {
 
 enum class CopyFailure { None, OpenSource, CreateTarget, ReadSource, WriteTarget };
 
+// Copies `from` to `to` in blocks of kCopyBlockSize bytes through a temporary
+// file beside `to`, renamed into place (an existing target is replaced), and
+// gives the copy the source's modification time. On failure the old target is
+// untouched, no temporary is left, the bytes not copied are counted as done in
+// progress (all of the file's size, once it was known), and *err holds the
+// system's words. A read-only target is replaced
+// only when the caller made it writable first.
 CopyFailure copyFileWithProgress(const std::string& from, const std::string& to, CopyProgress& progress,
                                  std::string* err);
+
+constexpr size_t kCopyBlockSize = 16380;
+
+// "Error in opening file " and the like: the start of the box that names the path.
+const char* copyFailureText(CopyFailure failure);

@@ -28,7 +28,7 @@ ScopedOs::ScopedOs(Os& replacement) : previous_(installed) { installed = &replac
 ScopedOs::~ScopedOs() { installed = previous_; }
 
 bool Os::writeFileAtomic(const std::string& path, const std::string& data, std::string* err) {
-  std::string temporary = path + ".kesto-tmp";
+  std::string temporary = temporaryPathFor(path);
   if (!writeFile(temporary, data, err)) {
     removeFile(temporary, nullptr);
     return false;
@@ -66,6 +66,8 @@ bool Os::makeDirectories(const std::string& path, std::string* err) {
   if (parent != path && !makeDirectories(parent, err)) return false;
   return makeDirectory(path, err);
 }
+
+std::string temporaryPathFor(const std::string& path) { return path + ".kesto-tmp"; }
 
 std::string joinPath(const std::string& dir, const std::string& name) {
   if (dir.empty()) return name;

@@ -2,7 +2,9 @@
 // attributes, times, dates and the user's identity.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,20 @@ struct DirectoryEntry {
   FileAttributes attributes;
 };
 
+// An open file of the OS layer; the destructor closes it silently.
+class OsFile {
+ public:
+  virtual ~OsFile() = default;
+  // Up to size bytes; *got is 0 at the end of the file.
+  virtual bool read(char* buffer, size_t size, size_t* got, std::string* err) = 0;
+  // All of size bytes, or false.
+  virtual bool write(const char* data, size_t size, std::string* err) = 0;
+  // Closes now, reporting what the system could not write.
+  virtual bool close(std::string* err) = 0;
+};
+
+enum class FileAccess { Read, Write };  // Write creates or truncates
+
 enum class DateForm { Short, Long };
 // User: the user's own formats. System: the system locale's defaults, user overrides ignored.
 enum class LocaleChoice { User, System };
@@ -56,6 +72,8 @@ class Os {
   // Creates or truncates.
   virtual bool writeFile(const std::string& path, const std::string& data, std::string* err) = 0;
   virtual bool appendFile(const std::string& path, const std::string& data, std::string* err) = 0;
+  // A file read or written piece by piece, for work that shows its progress; null on failure.
+  virtual std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) = 0;
 
   virtual bool exists(const std::string& path) = 0;
   virtual bool attributes(const std::string& path, FileAttributes* out, std::string* err) = 0;
@@ -115,6 +133,9 @@ class ScopedOs {
 
 // The platform's own implementation, for wrappers that delegate to it.
 Os& platformOs();
+
+// The temporary file beside path that a rewrite of path goes through.
+std::string temporaryPathFor(const std::string& path);
 
 // Path helpers with the platform's separator.
 std::string joinPath(const std::string& dir, const std::string& name);

@@ -15,6 +15,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <memory>
+#include <utility>
 
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
@@ -26,10 +28,10 @@ bool fail(std::string* err, const char* call, const std::string& path) {
   return false;
 }
 
-bool writeAll(int fd, const std::string& data) {
+bool writeAll(int fd, const char* data, size_t size) {
   size_t done = 0;
-  while (done < data.size()) {
-    ssize_t n = ::write(fd, data.data() + done, data.size() - done);
+  while (done < size) {
+    ssize_t n = ::write(fd, data + done, size - done);
     if (n < 0) {
       if (errno == EINTR) continue;
       return false;
@@ -42,12 +44,47 @@ bool writeAll(int fd, const std::string& data) {
 bool writeWithFlags(const std::string& path, const std::string& data, int flags, std::string* err) {
   int fd = ::open(path.c_str(), flags, 0666);
   if (fd < 0) return fail(err, "open", path);
-  bool ok = writeAll(fd, data);
+  bool ok = writeAll(fd, data.data(), data.size());
   int savedErrno = errno;
   if (::close(fd) != 0 && ok) return fail(err, "close", path);
   errno = savedErrno;
   return ok ? true : fail(err, "write", path);
 }
+
+class PosixFile : public OsFile {
+ public:
+  PosixFile(int fd, std::string path) : fd_(fd), path_(std::move(path)) {}
+  ~PosixFile() override {
+    if (fd_ >= 0) ::close(fd_);
+  }
+  PosixFile(const PosixFile&) = delete;
+  PosixFile& operator=(const PosixFile&) = delete;
+
+  bool read(char* buffer, size_t size, size_t* got, std::string* err) override {
+    for (;;) {
+      ssize_t n = ::read(fd_, buffer, size);
+      if (n >= 0) {
+        *got = static_cast<size_t>(n);
+        return true;
+      }
+      if (errno != EINTR) return fail(err, "read", path_);
+    }
+  }
+
+  bool write(const char* data, size_t size, std::string* err) override {
+    return writeAll(fd_, data, size) || fail(err, "write", path_);
+  }
+
+  bool close(std::string* err) override {
+    int fd = fd_;
+    fd_ = -1;
+    return ::close(fd) == 0 || fail(err, "close", path_);
+  }
+
+ private:
+  int fd_;
+  std::string path_;
+};
 
 FileAttributes fromStat(const struct stat& info) {
   FileAttributes attributes;
@@ -181,6 +218,16 @@ class PosixOs : public Os {
 
   bool appendFile(const std::string& path, const std::string& data, std::string* err) override {
     return writeWithFlags(path, data, O_WRONLY | O_CREAT | O_APPEND, err);
+  }
+
+  std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) override {
+    int flags = access == FileAccess::Read ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
+    int fd = ::open(path.c_str(), flags, 0666);
+    if (fd < 0) {
+      fail(err, "open", path);
+      return nullptr;
+    }
+    return std::make_unique<PosixFile>(fd, path);
   }
 
   bool exists(const std::string& path) override {

@@ -3,6 +3,8 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
@@ -49,6 +51,40 @@ class FileHandle {
 
  private:
   HANDLE handle_;
+};
+
+class WindowsFile : public OsFile {
+ public:
+  WindowsFile(HANDLE handle, std::string path) : handle_(handle), path_(std::move(path)) {}
+  ~WindowsFile() override {
+    if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
+  }
+  WindowsFile(const WindowsFile&) = delete;
+  WindowsFile& operator=(const WindowsFile&) = delete;
+
+  bool read(char* buffer, size_t size, size_t* got, std::string* err) override {
+    DWORD n = 0;
+    if (!ReadFile(handle_, buffer, static_cast<DWORD>(size), &n, nullptr)) return fail(err, "ReadFile", path_);
+    *got = n;
+    return true;
+  }
+
+  bool write(const char* data, size_t size, std::string* err) override {
+    DWORD written = 0;
+    if (!WriteFile(handle_, data, static_cast<DWORD>(size), &written, nullptr) || written != size)
+      return fail(err, "WriteFile", path_);
+    return true;
+  }
+
+  bool close(std::string* err) override {
+    HANDLE handle = handle_;
+    handle_ = INVALID_HANDLE_VALUE;
+    return CloseHandle(handle) || fail(err, "CloseHandle", path_);
+  }
+
+ private:
+  HANDLE handle_;
+  std::string path_;
 };
 
 int64_t toUnixSeconds(const FILETIME& time) {
@@ -142,6 +178,21 @@ class WindowsOs : public Os {
 
   bool appendFile(const std::string& path, const std::string& data, std::string* err) override {
     return writeWithDisposition(path, data, OPEN_ALWAYS, true, err);
+  }
+
+  std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) override {
+    bool reading = access == FileAccess::Read;
+    HANDLE handle = INVALID_HANDLE_VALUE;
+    retryOnSharing([&] {
+      handle = CreateFileA(path.c_str(), reading ? GENERIC_READ : GENERIC_WRITE, reading ? FILE_SHARE_READ : 0,
+                           nullptr, reading ? OPEN_EXISTING : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+      return handle != INVALID_HANDLE_VALUE ? TRUE : FALSE;
+    });
+    if (handle == INVALID_HANDLE_VALUE) {
+      fail(err, "CreateFileA", path);
+      return nullptr;
+    }
+    return std::make_unique<WindowsFile>(handle, path);
   }
 
   bool exists(const std::string& path) override { return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; }

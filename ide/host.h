@@ -43,6 +43,10 @@ class Host {
   virtual void beep(unsigned frequencyHz, unsigned durationMs) = 0;
   // The wait cursor during long work.
   virtual void setBusy(bool busy) = 0;
+  // Progress of a long action: bytes done of total, and the item being worked on.
+  virtual void showProgress(uint64_t done, uint64_t total, const std::string& item) = 0;
+  // The action ended: the host removes its progress display.
+  virtual void endProgress() = 0;
 
   // Message window: a message under parent (0 for top level); returns its handle.
   virtual MessageHandle addMessage(const MessageGroup& group, MessageHandle parent, const std::string& text) = 0;

@@ -7,6 +7,7 @@
 
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_services_win32.h"
+#include "ide/status_progress_win32.h"
 
 namespace {
 
@@ -39,6 +40,10 @@ class IdeHost : public Host {
   void showStatus(const std::string& text) override { showStatusText(text.c_str()); }
   void beep(unsigned frequencyHz, unsigned durationMs) override { Beep(frequencyHz, durationMs); }
   void setBusy(bool busy) override { SetCursor(LoadCursorA(nullptr, busy ? IDC_WAIT : IDC_ARROW)); }
+  void showProgress(uint64_t done, uint64_t total, const std::string& item) override {
+    drawStatusProgress(done, total, item);
+  }
+  void endProgress() override { endStatusProgress(); }
 
   MessageHandle addMessage(const MessageGroup& group, MessageHandle parent, const std::string& text) override {
     return add(group, parent, text, nullptr, 0, 0, 0);

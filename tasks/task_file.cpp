@@ -59,7 +59,7 @@ bool TaskList::writeTo(FILE* file) {
 
 bool TaskList::save(std::string* err) {
   std::string path = filePath.str();
-  std::string temporary = path + ".kesto-tmp";
+  std::string temporary = temporaryPathFor(path);
   FileHandle file(std::fopen(temporary.c_str(), "wb"));
   if (!file) {
     if (err) *err = "cannot create " + temporary;

@@ -41,10 +41,19 @@ class FakeHost : public Host {
     unsigned frequencyHz;
     unsigned durationMs;
   };
+  struct Progress {
+    uint64_t done;
+    uint64_t total;
+    std::string item;
+  };
 
   void showStatus(const std::string& text) override { statusTexts.push_back(text); }
   void beep(unsigned frequencyHz, unsigned durationMs) override { beeps.push_back({frequencyHz, durationMs}); }
   void setBusy(bool busy) override { busyChanges.push_back(busy); }
+  void showProgress(uint64_t done, uint64_t total, const std::string& item) override {
+    progress.push_back({done, total, item});
+  }
+  void endProgress() override { progressEnds++; }
   MessageHandle addMessage(const MessageGroup& group, MessageHandle parent, const std::string& text) override {
     messages.push_back({group.name, parent, text, "", 0, 0, 0});
     return static_cast<MessageHandle>(messages.size());
@@ -88,6 +97,8 @@ class FakeHost : public Host {
   std::vector<std::string> statusTexts;
   std::vector<Beep> beeps;
   std::vector<bool> busyChanges;
+  std::vector<Progress> progress;
+  int progressEnds = 0;
   std::vector<Message> messages;
   std::vector<std::pair<std::string, int32_t>> wentTo;
   std::vector<std::pair<std::string, std::string>> toolRuns;

@@ -2,7 +2,9 @@
 // so that every path through a file operation can be proven clean.
 #pragma once
 
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "foundation/os.h"
 
@@ -20,6 +22,13 @@ class FaultOs : public Os {
   }
   bool appendFile(const std::string& p, const std::string& d, std::string* e) override {
     return tick(e) && platformOs().appendFile(p, d, e);
+  }
+  // The file's reads, writes and close count as calls too.
+  std::unique_ptr<OsFile> openFile(const std::string& p, FileAccess a, std::string* e) override {
+    if (!tick(e)) return nullptr;
+    std::unique_ptr<OsFile> file = platformOs().openFile(p, a, e);
+    if (!file) return nullptr;
+    return std::make_unique<FaultFile>(*this, std::move(file));
   }
   bool exists(const std::string& p) override { return platformOs().exists(p); }
   bool attributes(const std::string& p, FileAttributes* o, std::string* e) override {
@@ -64,6 +73,21 @@ class FaultOs : public Os {
   bool openDocument(const std::string& p, std::string* e) override { return tick(e) && platformOs().openDocument(p, e); }
 
  private:
+  class FaultFile : public OsFile {
+   public:
+    FaultFile(FaultOs& owner, std::unique_ptr<OsFile> real) : owner_(owner), real_(std::move(real)) {}
+    bool read(char* b, size_t s, size_t* g, std::string* e) override { return owner_.tick(e) && real_->read(b, s, g, e); }
+    bool write(const char* d, size_t s, std::string* e) override { return owner_.tick(e) && real_->write(d, s, e); }
+    bool close(std::string* e) override {
+      bool closed = real_->close(e);  // a refused close still releases the handle
+      return owner_.tick(e) && closed;
+    }
+
+   private:
+    FaultOs& owner_;
+    std::unique_ptr<OsFile> real_;
+  };
+
   bool tick(std::string* err) {
     if (++calls != failAt) return true;
     if (err) *err = "injected fault at call " + std::to_string(calls);
