@@ -10,20 +10,9 @@
 
 namespace {
 
-std::string copyFailureText(CopyFailure failure, const std::string& from, const std::string& to) {
-  switch (failure) {
-    case CopyFailure::OpenSource:
-      return "Error in opening file " + from;
-    case CopyFailure::CreateTarget:
-      return "Error in creating file " + to;
-    case CopyFailure::ReadSource:
-      return "Error in reading file " + from;
-    case CopyFailure::WriteTarget:
-      return "Error in writing file " + to;
-    case CopyFailure::None:
-      break;
-  }
-  return "";
+// The path the failure is about: the source for opening and reading, the target otherwise.
+const std::string& failedPath(CopyFailure failure, const std::string& from, const std::string& to) {
+  return failure == CopyFailure::OpenSource || failure == CopyFailure::ReadSource ? from : to;
 }
 
 bool isWritable(const std::string& path) {
@@ -41,7 +30,7 @@ bool GwTransfer::copy(const std::string& from, const std::string& to) {
   CopyFailure failure = copyFileWithProgress(from, to, progress_, &err);
   if (failure == CopyFailure::None) return true;
   if (!err.empty()) host_.showStatus(err);
-  alert(copyFailureText(failure, from, to), "Kesto Addon error", kAlertIconHand);
+  alert(copyFailureText(failure) + failedPath(failure, from, to), "Kesto Addon error", kAlertIconHand);
   return false;
 }
 
