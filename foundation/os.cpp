@@ -76,6 +76,11 @@ std::string joinPath(const std::string& dir, const std::string& name) {
   return dir + kPathSeparator + name;
 }
 
+bool isAbsolutePath(const std::string& path) {
+  if (!path.empty() && (path[0] == '/' || path[0] == '\\')) return true;
+  return path.size() >= 2 && path[1] == ':';
+}
+
 std::string directoryOf(const std::string& path) {
   size_t cut = path.find_last_of(kPathSeparator == '/' ? "/" : "/\\");
   if (cut == std::string::npos) return "";

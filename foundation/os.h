@@ -139,6 +139,8 @@ std::string temporaryPathFor(const std::string& path);
 
 // Path helpers with the platform's separator.
 std::string joinPath(const std::string& dir, const std::string& name);
+// Rooted ("/x", "\\x") or with a drive ("c:x"), with either separator.
+bool isAbsolutePath(const std::string& path);
 // The part before the last separator; "" when there is none.
 std::string directoryOf(const std::string& path);
 // The part after the last separator.

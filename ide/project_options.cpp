@@ -73,6 +73,7 @@ ProjectOptions readProjectOptions(ProjectOptionStore& store, int32_t hierarchica
     readText(store, indexed("Kesto_ODR_TYP_%d", i), &group.type);
     if (group.type.empty()) continue;
     readText(store, indexed("Kesto_ODR_REP_%d", i), &group.directory);
+    readInteger(store, indexed("Kesto_ODR_ACT_%d", i), &group.active);
     options.deliveryGroups.push_back(group);
   }
   readText(store, "KestoGroupwareServer", &options.groupwareServer);
@@ -98,6 +99,7 @@ bool writeProjectOptions(ProjectOptionStore& store, const ProjectOptions& option
   for (size_t i = 0; i < options.deliveryGroups.size(); ++i) {
     text(indexed("Kesto_ODR_TYP_%d", static_cast<int32_t>(i)), '+', options.deliveryGroups[i].type);
     text(indexed("Kesto_ODR_REP_%d", static_cast<int32_t>(i)), '+', options.deliveryGroups[i].directory);
+    integer(indexed("Kesto_ODR_ACT_%d", static_cast<int32_t>(i)), options.deliveryGroups[i].active);
   }
   integer("Kesto_NB_MAIL", static_cast<int32_t>(options.mailRecipients.size()));
   for (size_t i = 0; i < options.mailRecipients.size(); ++i)
@@ -116,7 +118,8 @@ const std::vector<ProjectOptionInfo>& projectOptionTable() {
       {"Kesto_HIERARCH", true, 0},        {"Kesto_HIDEWITHVIEW", true, 0},  {"Kesto_EWindows", true, 0},
       {"Kesto_GenRC", true, 0},           {"Kesto_HTMLEN", true, 0},        {"Kesto_HTMLAU", true, 0},
       {"Kesto_HTMLFI", false, '~'},       {"Kesto_WITHDELIVERY", true, 0},  {"Kesto_NB_ODR", true, 0},
-      {"Kesto_ODR_TYP_%d", false, '+'},   {"Kesto_ODR_REP_%d", false, '+'}, {"KestoGroupwareServer", false, '~'},
+      {"Kesto_ODR_TYP_%d", false, '+'},   {"Kesto_ODR_REP_%d", false, '+'}, {"Kesto_ODR_ACT_%d", true, 0},
+      {"KestoGroupwareServer", false, '~'},
       {"Kesto_NB_MAIL", true, 0},         {"Kesto_MAIL_PJ_%d", false, '+'},
   };
   return table;

@@ -19,6 +19,7 @@ class ProjectOptionStore {
 struct DeliveryGroupOption {
   std::string type;       // project node type
   std::string directory;  // delivery directory
+  int32_t active = 1;     // Kesto_ODR_ACT_%d: the group's files are delivered
 };
 
 // Every per-project option with its default when absent.

@@ -4,15 +4,6 @@
 #include "foundation/os.h"
 #include "ide/host.h"
 
-namespace {
-
-bool isAbsolute(const std::string& path) {
-  if (!path.empty() && (path[0] == '/' || path[0] == '\\')) return true;
-  return path.size() >= 2 && path[1] == ':';
-}
-
-}  // namespace
-
 std::vector<std::string> splitSearchList(const std::string& list) {
   std::vector<std::string> entries;
   size_t start = 0;
@@ -50,5 +41,5 @@ SearchPlaces searchPlaces(Host& host, const std::string& editorFile) {
 
 std::string searchDirectory(const SearchPlaces& places, const std::string& entry) {
   std::string native = nativePath(entry);
-  return isAbsolute(entry) ? native : joinPath(places.projectDirectory, native);
+  return isAbsolutePath(entry) ? native : joinPath(places.projectDirectory, native);
 }

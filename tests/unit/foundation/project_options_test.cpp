@@ -45,14 +45,14 @@ TEST(ProjectOptionsTest, IntegersNeedFourBytesAndTextsSkipTheirMarker) {
 
 TEST(ProjectOptionsTest, SaveWritesEveryOptionInItsOrderWithMarkers) {
   ProjectOptions options;
-  options.deliveryGroups.push_back({".exe", "/srv/bin"});
+  options.deliveryGroups.push_back({".exe", "/srv/bin", 0});
   options.mailRecipients.push_back("ann@example.org");
   options.groupwareServer = "/srv/gw";
   MemoryOptionStore store;
   ASSERT_TRUE(writeProjectOptions(store, options));
   EXPECT_EQ(store.order, (std::vector<std::string>{
                              "Kesto_HIERARCH", "Kesto_HIDEWITHVIEW", "Kesto_WITHDELIVERY", "Kesto_NB_ODR",
-                             "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0",
+                             "Kesto_ODR_TYP_0", "Kesto_ODR_REP_0", "Kesto_ODR_ACT_0", "Kesto_NB_MAIL", "Kesto_MAIL_PJ_0",
                              "KestoGroupwareServer", "Kesto_EWindows", "Kesto_GenRC", "Kesto_HTMLEN", "Kesto_HTMLAU",
                              "Kesto_HTMLFI"}));
   EXPECT_EQ(store.values["Kesto_ODR_REP_0"], std::string("+/srv/bin\0", 10));
@@ -60,4 +60,6 @@ TEST(ProjectOptionsTest, SaveWritesEveryOptionInItsOrderWithMarkers) {
   EXPECT_EQ(store.values["Kesto_NB_ODR"], encodeIntegerOption(1));
   ProjectOptions again = readProjectOptions(store, 0);
   EXPECT_EQ(again.mailRecipients, options.mailRecipients);
+  ASSERT_EQ(1u, again.deliveryGroups.size());
+  EXPECT_EQ(0, again.deliveryGroups[0].active);
 }

@@ -1,0 +1,79 @@
+// Selecting the files to deliver: the directory check and the comparison of contents.
+#include "delivery/delivery_selection.h"
+
+#include <cstring>
+#include <memory>
+
+#include "foundation/alert.h"
+#include "foundation/os.h"
+
+namespace {
+
+constexpr size_t kComparedBlock = 256;
+
+// Reads up to size bytes, fewer only at the end of the file.
+bool readBlock(OsFile& file, char* buffer, size_t size, size_t* got) {
+  *got = 0;
+  while (*got < size) {
+    size_t n = 0;
+    if (!file.read(buffer + *got, size - *got, &n, nullptr)) return false;
+    if (n == 0) break;
+    *got += n;
+  }
+  return true;
+}
+
+bool sameContents(OsFile& a, OsFile& b) {
+  char left[kComparedBlock];
+  char right[kComparedBlock];
+  for (;;) {
+    size_t gotLeft = 0;
+    size_t gotRight = 0;
+    if (!readBlock(a, left, sizeof left, &gotLeft) || !readBlock(b, right, sizeof right, &gotRight)) return false;
+    if (gotLeft != gotRight || std::memcmp(left, right, gotLeft) != 0) return false;
+    if (gotLeft < sizeof left) return true;
+  }
+}
+
+}  // namespace
+
+bool needsDelivery(const std::string& source, const std::string& directory) {
+  FileAttributes sourceInfo;
+  if (!os().attributes(source, &sourceInfo, nullptr)) return false;
+  const std::string copy = joinPath(directory, fileNameOf(source));
+  FileAttributes copyInfo;
+  if (!os().attributes(copy, &copyInfo, nullptr) || copyInfo.size != sourceInfo.size) return true;
+  std::unique_ptr<OsFile> in = os().openFile(source, FileAccess::Read, nullptr);
+  if (!in) return false;
+  std::unique_ptr<OsFile> delivered = os().openFile(copy, FileAccess::Read, nullptr);
+  return !delivered || !sameContents(*in, *delivered);
+}
+
+std::string nodeFilePath(const std::string& projectDirectory, const std::string& name) {
+  return isAbsolutePath(name) ? name : joinPath(projectDirectory, name);
+}
+
+bool selectDeliveries(Tableau<OneDelRep>& groups, const ProjectNode* root, const std::string& projectDirectory,
+                      Tableau<Livrage>* deliveries) {
+  deliveries->clear();
+  rebuildDeliveryGroups(groups, root);
+  const ProjectNode* delivery = findDeliveryNode(root);
+  if (!delivery) return true;
+  for (int32_t i = 0; i < groups.count(); ++i) {
+    const std::string directory = groups[i]->directory.str();
+    if (!os().exists(directory)) {
+      alert("Directory " + directory + " does not exist !\nChange it !", "Kesto AddOn error", kAlertIconHand);
+      return false;
+    }
+  }
+  for (const ProjectNode& node : delivery->nodes) {
+    const OneDelRep* group = findDeliveryGroup(groups, node.type);
+    const std::string source = nodeFilePath(projectDirectory, node.name);
+    if (!group || !group->active || !needsDelivery(source, group->directory.str())) continue;
+    Livrage* record = new Livrage;
+    record->source = source;
+    record->group = group;
+    deliveries->append(record);
+  }
+  return true;
+}
