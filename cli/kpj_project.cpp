@@ -137,6 +137,38 @@ bool KpjProject::save(std::string* err) {
   return os().writeFileAtomic(path_, document_.dump(2) + "\n", err);
 }
 
+namespace {
+
+// The child positions that lead from node to wanted; false when wanted is not below node.
+bool pathTo(const ProjectNode& node, const ProjectNode* wanted, std::vector<size_t>* path) {
+  if (&node == wanted) return true;
+  for (size_t i = 0; i < node.nodes.size(); ++i) {
+    path->push_back(i);
+    if (pathTo(node.nodes[i], wanted, path)) return true;
+    path->pop_back();
+  }
+  return false;
+}
+
+}  // namespace
+
+const ProjectNode* KpjProject::addNode(const ProjectNode& parent, const std::string& name, const std::string& type) {
+  std::vector<size_t> path;
+  if (!pathTo(root_, &parent, &path)) return nullptr;
+  ProjectNode* node = &root_;
+  Json* value = &document_;
+  for (size_t i : path) {
+    node = &node->nodes[i];
+    value = &(*value)["nodes"][i];
+  }
+  Json added = Json::object();
+  added["name"] = name;
+  if (!type.empty()) added["type"] = type;
+  (*value)["nodes"].push_back(added);
+  node->nodes.push_back(ProjectNode{name, type, "", "", "", {}});
+  return &node->nodes.back();
+}
+
 bool KpjProject::get(const std::string& name, std::string* bytes) {
   auto options = document_.find("options");
   if (options == document_.end() || !options->is_object()) return false;
