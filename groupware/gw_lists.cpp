@@ -24,35 +24,43 @@ bool inOtherTree(const std::string& path, const std::string& own, const std::str
   return isBelowRoot(other, path) && !isBelowRoot(other, own);
 }
 
+// Empties list, then scans the own tree and gives make each readable file of
+// it with the copy of the same name in the other tree; make returns the
+// element to list, or null to leave the file out.
+template <typename Elt, typename Make>
+void fillList(Tableau<Elt>& list, const std::string& own, const std::string& other, const std::string& filters,
+              const Make& make) {
+  list.clear();
+  scanTree(own, filters, [&](const std::string& path) {
+    if (inOtherTree(path, own, other)) return;
+    GwCopy mine = readCopy(path);
+    if (!mine.exists) return;
+    if (Elt* element = make(mine, readCopy(joinPath(other, listedName(own, path))))) {
+      element->path = path;
+      element->size = mine.size;
+      insertByPath(list, element);
+    }
+  });
+}
+
 }  // namespace
 
 void fillSendList(GWsendList& list, const GwRoots& roots, const std::string& filters) {
-  list.clear();
-  scanTree(roots.project, filters, [&](const std::string& path) {
-    if (inOtherTree(path, roots.project, roots.server)) return;
-    GwCopy local = readCopy(path);
+  fillList(list, roots.project, roots.server, filters, [](const GwCopy& local, const GwCopy& server) {
     // Read-only local copies are reference copies: never sent.
-    if (!local.exists || !local.writable) return;
-    GwCopy server = readCopy(joinPath(roots.server, listedName(roots.project, path)));
+    if (!local.writable) return static_cast<EltGWsend*>(nullptr);
     GwSendState state = sendState(local, server);
     auto* element = new EltGWsend();
     element->request = state.request;
     element->age = state.age;
     element->localTime = local.time;
     element->serverTime = server.exists ? server.time : 0;
-    element->path = path;
-    element->size = local.size;
-    insertByPath(list, element);
+    return element;
   });
 }
 
 void fillGetList(GWgetList& list, const GwRoots& roots, const std::string& filters) {
-  list.clear();
-  scanTree(roots.server, filters, [&](const std::string& path) {
-    if (inOtherTree(path, roots.server, roots.project)) return;
-    GwCopy server = readCopy(path);
-    if (!server.exists) return;
-    GwCopy local = readCopy(joinPath(roots.project, listedName(roots.server, path)));
+  fillList(list, roots.server, roots.project, filters, [](const GwCopy& server, const GwCopy& local) {
     GwGetState state = getState(server, local);
     auto* element = new EltGWget();
     element->locked = server.writable ? 0 : 1;
@@ -60,9 +68,7 @@ void fillGetList(GWgetList& list, const GwRoots& roots, const std::string& filte
     element->age = state.age;
     element->serverTime = server.time;
     element->localTime = local.exists ? local.time : 0;
-    element->path = path;
-    element->size = server.size;
-    insertByPath(list, element);
+    return element;
   });
 }
 

@@ -20,12 +20,7 @@ class GwGetTest : public GwTrees {
     put(local("same.cpp"), "s", kOld, true);
     ASSERT_TRUE(presenter.open());
   }
-  std::string requests() const {
-    std::string words;
-    for (int32_t i = 0; i < presenter.list().count(); ++i)
-      words += std::string(getRequestWord(presenter.list()[i]->request)) + "|";
-    return words;
-  }
+  std::string requests() const { return GwTrees::requests(presenter, getRequestWord); }
 };
 
 TEST_F(GwGetTest, ButtonsSkipErrorsAndLockedRows) {

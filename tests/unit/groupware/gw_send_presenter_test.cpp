@@ -19,12 +19,7 @@ class GwSendTest : public GwTrees {
     put(server("same.cpp"), "s", kOld, true);
     ASSERT_TRUE(presenter.open());
   }
-  std::string requests() const {
-    std::string words;
-    for (int32_t i = 0; i < presenter.list().count(); ++i)
-      words += std::string(sendRequestWord(presenter.list()[i]->request)) + "|";
-    return words;
-  }
+  std::string requests() const { return GwTrees::requests(presenter, sendRequestWord); }
 };
 
 TEST_F(GwSendTest, OpeningWithoutServerDirectoryShowsTheBoxAndListsNothing) {

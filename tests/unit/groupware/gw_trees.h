@@ -48,6 +48,13 @@ class GwTrees : public ::testing::Test {
     platformOs().readFile(path, &data, nullptr);
     return data;
   }
+  // The request word of every row, each followed by '|'.
+  template <typename Presenter>
+  static std::string requests(const Presenter& presenter, const char* (*word)(int32_t)) {
+    std::string words;
+    for (int32_t i = 0; i < presenter.list().count(); ++i) words += std::string(word(presenter.list()[i]->request)) + "|";
+    return words;
+  }
   static bool readOnly(const std::string& path) {
     FileAttributes attributes;
     return platformOs().attributes(path, &attributes, nullptr) && attributes.readOnly;
