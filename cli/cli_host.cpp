@@ -61,7 +61,7 @@ ProjectOptionStore* CliHost::projectOptions() { return project_; }
 // The node goes into the project in memory; the command that added it saves the file.
 const ProjectNode* CliHost::addProjectNode(const ProjectNode& parent, const std::string& name,
                                            const std::string& type) {
-  return project_ ? project_->addNode(parent, name, type) : nullptr;
+  return project_ ? project_->addNodeUnder(parent, name, type) : nullptr;
 }
 
 int CliHost::runTool(const std::string&, const std::string&) { return -1; }

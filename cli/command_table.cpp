@@ -20,6 +20,12 @@ const std::vector<CommandGroup>& commandGroups() {
       {"tasks", "List, add, edit, remove and sort the project's tasks; today's report", installTasksCommands},
       {"flash", "Print today's report and mark the day as flashed", installFlashCommands},
       {"mail", "The project's mail recipients, and a mail by hand", installMailCommands},
+      {"deliver", "Copy the project's changed targets to their delivery directories and mail the report",
+       installDeliverCommand},
+      {"delivery", "List the delivery groups (type, directory, state), or set one", installDeliveryCommands},
+      {"make", "Run what the add-on does around a Make, with a build command in between", installMakeCommand},
+      {"recent", "List the top bar's recent projects and headers", installRecentCommand},
+      {"bar", "Print the top bar's menus for the project", installBarCommand},
       {"gw", "Exchange files with the project's groupware server: send, get, locks", installGroupwareCommands},
   };
   return groups;

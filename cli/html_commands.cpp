@@ -1,13 +1,11 @@
 // kesto html: writes the documentation site of the project, or of a directory.
-#include <unistd.h>
-
 #include <cstdio>
 #include <iostream>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
-#include "cli/progress_bar.h"
+#include "cli/html_site.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
 #include "html/ht_generation.h"
@@ -41,28 +39,7 @@ void generate(CliSession& session, const HtmlArguments& args) {
     if (filters.empty()) settings().readString("HTML", "Filters", &filters, "*.cpp;*.cc;*.c;*.h;*.rh");
     if (name.empty()) name = directoryName(directory);
   }
-  if (refuseWhileHtmlGenerationRuns()) {
-    session.exitStatus = kExitNothing;
-    return;
-  }
-
-  htGenerationResult result;
-  bool finished = false;
-  {
-    std::unique_ptr<ProgressBar> bar(isatty(STDERR_FILENO) ? new ProgressBar : nullptr);
-    htProgress progress;
-    if (bar) progress = [&bar](const char* phase, size_t done, size_t total) { bar->show(phase, done, total); };
-    finished = runHtmlGeneration(directory, filters, name, &result, progress);
-  }
-  if (!finished) {
-    session.exitStatus = kExitNothing;
-    return;
-  }
-  if (result.pagesSkipped > 0) {
-    reportError(std::to_string(result.pagesSkipped) + " page(s) could not be written, the first: " +
-                result.firstSkipped);
-    session.exitStatus = kExitNothing;
-  }
+  if (!writeHtmlSite(session, directory, filters, name)) return;
   std::cout << htFramesetPath(directory, name) << '\n';
   std::string err;
   if (args.open && !openHtmlDocumentation(directory, name, &err)) {
@@ -72,6 +49,31 @@ void generate(CliSession& session, const HtmlArguments& args) {
 }
 
 }  // namespace
+
+bool writeHtmlSite(CliSession& session, const std::string& directory, const std::string& filters,
+                   const std::string& name) {
+  if (refuseWhileHtmlGenerationRuns()) {
+    session.exitStatus = kExitNothing;
+    return false;
+  }
+  htGenerationResult result;
+  Host& host = session.host();
+  bool finished = runHtmlGeneration(directory, filters, name, &result,
+                                    [&host](const char* phase, size_t done, size_t total) {
+                                      host.showProgress(done, total, phase);
+                                    });
+  host.endProgress();
+  if (!finished) {
+    session.exitStatus = kExitNothing;
+    return false;
+  }
+  if (result.pagesSkipped > 0) {
+    reportError(std::to_string(result.pagesSkipped) + " page(s) could not be written, the first: " +
+                result.firstSkipped);
+    session.exitStatus = kExitNothing;
+  }
+  return true;
+}
 
 void installHtmlCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<HtmlArguments>();

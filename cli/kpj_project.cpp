@@ -112,6 +112,15 @@ bool KpjProject::parse(const std::string& path, const std::string& text, std::st
     if (err) *err = path + ":1:1: a project file holds one JSON object";
     return false;
   }
+  if (!readRoot(err)) return false;
+  if (document_.contains("options") && !document_["options"].is_object()) {
+    if (err) *err = path + ": \"options\" must be an object";
+    return false;
+  }
+  return true;
+}
+
+bool KpjProject::readRoot(std::string* err) {
   // The document itself is the project's top node: its directory options are
   // what every node inherits; its name is always the project file's.
   root_ = ProjectNode();
@@ -121,16 +130,62 @@ bool KpjProject::parse(const std::string& path, const std::string& text, std::st
   asNode.erase("options");
   std::string why;
   if (!readNode(asNode, &root_, &why)) {
-    if (err) *err = path + ": " + why;
+    if (err) *err = path_ + ": " + why;
     return false;
   }
-  root_.name = fileNameOf(path);
+  root_.name = fileNameOf(path_);
   root_.type = ".kpj";
-  if (document_.contains("options") && !document_["options"].is_object()) {
-    if (err) *err = path + ": \"options\" must be an object";
+  return true;
+}
+
+namespace {
+
+// The "nodes" array of the first node named name, depth-first below holder.
+Json* childrenOfNodeNamed(Json& holder, const std::string& name) {
+  if (!holder.contains("nodes")) return nullptr;
+  for (Json& node : holder["nodes"]) {
+    if (node.value("name", "") == name) return &node["nodes"];  // null until the first child, then an array
+    if (Json* found = childrenOfNodeNamed(node, name)) return found;
+  }
+  return nullptr;
+}
+
+// Erases the first node named name below holder; false when none.
+bool eraseNodeNamed(Json& holder, const std::string& name) {
+  if (!holder.contains("nodes")) return false;
+  Json& nodes = holder["nodes"];
+  for (size_t i = 0; i < nodes.size(); ++i) {
+    if (nodes[i].value("name", "") == name) {
+      nodes.erase(i);
+      return true;
+    }
+    if (eraseNodeNamed(nodes[i], name)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool KpjProject::addNode(const std::string& parent, const std::string& name, const std::string& type,
+                         std::string* err) {
+  Json* children = parent.empty() || parent == root_.name ? &document_["nodes"] : childrenOfNodeNamed(document_, parent);
+  if (!children) {
+    if (err) *err = "no node named " + parent + " in " + path_;
     return false;
   }
-  return true;
+  Json node = Json::object();
+  node["name"] = name;
+  node["type"] = type;
+  children->push_back(node);
+  return readRoot(err);
+}
+
+bool KpjProject::removeNode(const std::string& name, std::string* err) {
+  if (!eraseNodeNamed(document_, name)) {
+    if (err) *err = "no node named " + name + " in " + path_;
+    return false;
+  }
+  return readRoot(err);
 }
 
 bool KpjProject::save(std::string* err) {
@@ -152,21 +207,20 @@ bool pathTo(const ProjectNode& node, const ProjectNode* wanted, std::vector<size
 
 }  // namespace
 
-const ProjectNode* KpjProject::addNode(const ProjectNode& parent, const std::string& name, const std::string& type) {
+const ProjectNode* KpjProject::addNodeUnder(const ProjectNode& parent, const std::string& name,
+                                             const std::string& type) {
   std::vector<size_t> path;
   if (!pathTo(root_, &parent, &path)) return nullptr;
-  ProjectNode* node = &root_;
-  Json* value = &document_;
-  for (size_t i : path) {
-    node = &node->nodes[i];
-    value = &(*value)["nodes"][i];
-  }
-  Json added = Json::object();
-  added["name"] = name;
-  if (!type.empty()) added["type"] = type;
-  (*value)["nodes"].push_back(added);
-  node->nodes.push_back(ProjectNode{name, type, "", "", "", {}});
-  return &node->nodes.back();
+  Json* holder = &document_;
+  for (size_t i : path) holder = &(*holder)["nodes"][i];
+  Json node = Json::object();
+  node["name"] = name;
+  if (!type.empty()) node["type"] = type;
+  (*holder)["nodes"].push_back(node);
+  if (!readRoot(nullptr)) return nullptr;
+  const ProjectNode* added = &root_;
+  for (size_t i : path) added = &added->nodes[i];
+  return &added->nodes.back();
 }
 
 bool KpjProject::get(const std::string& name, std::string* bytes) {

@@ -19,6 +19,13 @@ class KpjProject : public ProjectOptionStore {
   // Rewrites the file atomically.
   bool save(std::string* err);
 
+  // Adds a node as the last child of the first node named parent (the top node
+  // when parent is empty or the project file's name). False with *err when
+  // there is no such parent.
+  bool addNode(const std::string& parent, const std::string& name, const std::string& type, std::string* err);
+  // Removes the first node of that name with everything below it; false with *err when none.
+  bool removeNode(const std::string& name, std::string* err);
+
   const std::string& path() const { return path_; }
   // The project's top node: the project file itself, with the document's own
   // "description", "include_path" and "source_path", holding the file's nodes.
@@ -27,7 +34,7 @@ class KpjProject : public ProjectOptionStore {
   // Adds a node under parent, a node of root()'s tree, in the tree and in the
   // document (save() writes it); null when parent is not in the tree. Only the
   // returned pointer stays valid.
-  const ProjectNode* addNode(const ProjectNode& parent, const std::string& name, const std::string& type);
+  const ProjectNode* addNodeUnder(const ProjectNode& parent, const std::string& name, const std::string& type);
 
   // Integers are JSON integers, texts JSON strings with their marker.
   bool get(const std::string& name, std::string* bytes) override;
@@ -37,6 +44,9 @@ class KpjProject : public ProjectOptionStore {
   static std::string emptyText();
 
  private:
+  // Builds root_ from the document.
+  bool readRoot(std::string* err);
+
   std::string path_;
   nlohmann::ordered_json document_;
   ProjectNode root_;

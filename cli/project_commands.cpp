@@ -16,6 +16,8 @@ struct ProjectArguments {
   std::string file;
   std::string name;
   std::string value;
+  std::string type;
+  std::string parent;
   std::string at;         // quick-add: the current node
   std::string container;  // quick-add: a new container's name
   std::string level = "parent";
@@ -108,6 +110,17 @@ void set(CliSession& session, const ProjectArguments& args) {
   }
 }
 
+// Applies edit to the project's tree and saves the file.
+template <typename Edit>
+void editTree(CliSession& session, Edit edit) {
+  if (!session.requireProject()) return;
+  std::string err;
+  if (!edit(*session.project(), &err) || !session.project()->save(&err)) {
+    reportError(err);
+    session.exitStatus = kExitNothing;
+  }
+}
+
 // Quick add as the dialog does it, then the project file is saved.
 void quickAdd(CliSession& session, const ProjectArguments& args, bool withContainer) {
   if (!session.requireProject()) return;
@@ -115,7 +128,7 @@ void quickAdd(CliSession& session, const ProjectArguments& args, bool withContai
   const ProjectNode* current = findNodeNamed(project.root(), args.at);
   if (!current) {
     reportError("no node named " + args.at + " in " + project.path());
-    session.exitStatus = kExitUsage;
+    session.exitStatus = kExitNothing;
     return;
   }
   QuickAddPresenter presenter(session.host(), project.root(), *current);
@@ -154,6 +167,22 @@ void installProjectCommands(CLI::App& command, CliSession& session) {
   setCommand->add_option("name", args->name, "Option name, such as Kesto_HIERARCH")->required();
   setCommand->add_option("value", args->value, "Value; texts are stored with their marker")->required();
   setCommand->callback([&session, args] { set(session, *args); });
+
+  CLI::App* addCommand = command.add_subcommand("add", "Add a node under the top node or under --parent");
+  addCommand->add_option("name", args->name, "The node's file, relative to the project or absolute")->required();
+  addCommand->add_option("--type", args->type, "Node type, such as .exe or .cpp")->required();
+  addCommand->add_option("--parent", args->parent, "Name of the node to add it under (default: the top node)");
+  addCommand->callback([&session, args] {
+    editTree(session, [args](KpjProject& project, std::string* err) {
+      return project.addNode(args->parent, args->name, args->type, err);
+    });
+  });
+
+  CLI::App* removeCommand = command.add_subcommand("remove", "Remove the first node of that name and its children");
+  removeCommand->add_option("name", args->name, "Name of the node")->required();
+  removeCommand->callback([&session, args] {
+    editTree(session, [args](KpjProject& project, std::string* err) { return project.removeNode(args->name, err); });
+  });
 
   CLI::App* quickAddCommand =
       command.add_subcommand("quick-add", "Add a source node beside a node, optionally in a new container");

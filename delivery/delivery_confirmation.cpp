@@ -6,5 +6,5 @@
 DeliveryConfirmation::DeliveryConfirmation(const Tableau<Livrage>& deliveries, bool hasRecipients)
     : sendMail_(hasRecipients) {
   for (int32_t i = 0; i < deliveries.count(); ++i)
-    rows_.push_back(fileNameOf(deliveries[i]->source.str()) + " -> " + deliveries[i]->group->directory.str());
+    rows_.push_back(fileNameOf(deliveries[i]->source.str()) + " -> " + deliveries[i]->directory.str());
 }

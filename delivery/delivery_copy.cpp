@@ -32,7 +32,7 @@ DeliveryReport copyDeliveries(Host& host, Tableau<Livrage>& deliveries) {
     CopyProgress progress(host, total);
     for (int32_t i = 0; i < deliveries.count(); ++i) {
       const std::string source = deliveries[i]->source.str();
-      const std::string directory = deliveries[i]->group->directory.str();
+      const std::string directory = deliveries[i]->directory.str();
       std::string err;
       CopyFailure failure = copyFileWithProgress(source, joinPath(directory, fileNameOf(source)), progress, &err);
       if (failure == CopyFailure::None) {

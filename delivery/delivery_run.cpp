@@ -9,7 +9,7 @@
 DeliveryOutcome Delivery::run(Host& host, Mail& mail, bool includeTaskNotes, const ConfirmDelivery& confirm) {
   const std::string projectFile = host.projectFile();
   Tableau<Livrage> deliveries;
-  if (!selectDeliveries(groups, host.projectRoot(), directoryOf(projectFile), &deliveries))
+  if (!selectDeliveries(groups, host.projectRoot(), projectDirectoryOf(projectFile), &deliveries))
     return DeliveryOutcome::Refused;
   if (deliveries.count() == 0) {
     host.addMessage(kDeliveryGroup, 0, "No files to deliver !");

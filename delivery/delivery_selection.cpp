@@ -49,7 +49,7 @@ bool needsDelivery(const std::string& source, const std::string& directory) {
   return !delivered || !sameContents(*in, *delivered);
 }
 
-std::string nodeFilePath(const std::string& projectDirectory, const std::string& name) {
+std::string projectPath(const std::string& projectDirectory, const std::string& name) {
   return isAbsolutePath(name) ? name : joinPath(projectDirectory, name);
 }
 
@@ -61,18 +61,22 @@ bool selectDeliveries(Tableau<OneDelRep>& groups, const ProjectNode* root, const
   if (!delivery) return true;
   for (int32_t i = 0; i < groups.count(); ++i) {
     const std::string directory = groups[i]->directory.str();
-    if (!os().exists(directory)) {
+    // A group not yet given a directory must not deliver into the project's own.
+    if (directory.empty() || !os().exists(projectPath(projectDirectory, directory))) {
       alert("Directory " + directory + " does not exist !\nChange it !", "Kesto AddOn error", kAlertIconHand);
       return false;
     }
   }
   for (const ProjectNode& node : delivery->nodes) {
     const OneDelRep* group = findDeliveryGroup(groups, node.type);
-    const std::string source = nodeFilePath(projectDirectory, node.name);
-    if (!group || !group->active || !needsDelivery(source, group->directory.str())) continue;
+    if (!group || !group->active) continue;
+    const std::string source = projectPath(projectDirectory, node.name);
+    const std::string directory = projectPath(projectDirectory, group->directory.str());
+    if (!needsDelivery(source, directory)) continue;
     Livrage* record = new Livrage;
     record->source = source;
     record->group = group;
+    record->directory = directory;
     deliveries->append(record);
   }
   return true;

@@ -10,9 +10,10 @@
 // One file to deliver.
 class Livrage : public Basic {
  public:
-  String source;                 // full path
+  String source;                     // full path
   const OneDelRep* group = nullptr;  // not owned
-  uint32_t size = 0;             // filled just before copying
+  String directory;                  // the group's directory, taken from the project directory when relative
+  uint32_t size = 0;                 // filled just before copying
 
   operator char*() override { return source; }
 };
@@ -22,8 +23,9 @@ class Livrage : public Basic {
 // is never delivered; a copy that cannot be read is delivered again.
 bool needsDelivery(const std::string& source, const std::string& directory);
 
-// The path of a node's file: relative names are taken from the project directory.
-std::string nodeFilePath(const std::string& projectDirectory, const std::string& name);
+// A node's file or a group's directory: relative names are taken from the
+// project directory, which is the IDE's current directory while a project is open.
+std::string projectPath(const std::string& projectDirectory, const std::string& name);
 
 // Rebuilds the groups and fills deliveries with the files of active groups that
 // need delivery. False (deliveries empty) after showing "Directory ... does not

@@ -1,6 +1,7 @@
 // The settings store: named values under sections of one root key, all stored as text.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -62,3 +63,23 @@ class SettingsStore {
 };
 
 SettingsStore& settings();
+
+// An integer field of a settings record and the key it is stored under.
+template <typename Record>
+struct IntegerSetting {
+  const char* key;
+  int32_t Record::*value;
+};
+
+// Reads each field, keeping the record's value as the default.
+template <typename Record, size_t N>
+void readIntegerSettings(const char* section, const IntegerSetting<Record> (&fields)[N], Record* record) {
+  for (const IntegerSetting<Record>& field : fields)
+    record->*field.value = settings().readInteger(section, field.key, record->*field.value);
+}
+
+// Writes each field, in the table's order.
+template <typename Record, size_t N>
+void writeIntegerSettings(const char* section, const IntegerSetting<Record> (&fields)[N], const Record& record) {
+  for (const IntegerSetting<Record>& field : fields) settings().writeInteger(section, field.key, record.*field.value);
+}

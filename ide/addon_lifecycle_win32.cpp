@@ -6,6 +6,8 @@
 #include <new>
 
 #include "completion/completion_engine.h"
+#include "delivery/deliv_tool_win32.h"
+#include "delivery/delivery_run.h"
 #include "delivery/mail.h"
 #include "foundation/alert.h"
 #include "foundation/settings.h"
@@ -13,6 +15,7 @@
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
 #include "ide/help_file_win32.h"
+#include "ide/make_sequence.h"
 #include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
@@ -130,8 +133,8 @@ const Step kInitialisation[] = {
      [](IIdeRoot*) { create<SourceScanner>(addon().navigation, nullptr); }},
     {"create the top bar settings, given the new-shell flag and the bar", nullptr},
     {"create the completion engine", createCompletion},
-    {"create the general behaviours", nullptr},
-    {"create the delivery object", nullptr},
+    {"create the general behaviours", [](IIdeRoot*) { create<MakeSequence>(addon().makeSequence, nullptr); }},
+    {"create the delivery object", [](IIdeRoot*) { create<Delivery>(addon().delivery, nullptr); }},
     {"hold the editor service", createEditorHolder},
     {"hold the status line service", createStatusLineHolder},
     {"fill the tool table", createToolTable},
@@ -142,7 +145,7 @@ const Step kInitialisation[] = {
        create<ProjectTestA>(addon().projectClients, nullptr);
        if (addon().projectClients) addon().projectClients->registerClients();
      }},
-    {"create and register the delivery tool", nullptr},
+    {"create the delivery tool", [](IIdeRoot*) { addon().delivTool = new (std::nothrow) DelivTool(); }},
     {"load the recent-file lists", nullptr},
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
@@ -156,7 +159,7 @@ const Step kShutdown[] = {
     {"save the recent-file lists", nullptr},
     {"delete the mail options", [](IIdeRoot*) { saveAndDestroy(addon().mail, &Mail::saveSettings); }},
     {"delete QuickFind", [](IIdeRoot*) { saveAndDestroy(addon().quickFind, &QuickFind::writeSettings); }},
-    {"delete the delivery object", nullptr},
+    {"delete the delivery object", [](IIdeRoot*) { destroy(addon().delivery); }},
     {"delete the hooks", nullptr},
     {"delete the help file", [](IIdeRoot*) { destroy(addon().helpFile); }},
     {"delete the editor navigation",
@@ -165,7 +168,7 @@ const Step kShutdown[] = {
     {"delete the completion engine",
      [](IIdeRoot*) { saveAndDestroy(addon().completion, &CompletionEngine::writeSettings); }},
     {"release the editor service", [](IIdeRoot*) { destroy(addon().editor); }},
-    {"delete the general behaviours", nullptr},
+    {"delete the general behaviours", [](IIdeRoot*) { destroy(addon().makeSequence); }},
     {"release the status line service", [](IIdeRoot*) { destroy(addon().statusLine); }},
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
     {"save the tasks and delete the task manager",
@@ -177,6 +180,13 @@ const Step kShutdown[] = {
     {"unregister the project clients",
      [](IIdeRoot*) {
        if (addon().projectClients) addon().projectClients->unregisterClients();
+     }},
+    {"take the delivery tool out and release it",
+     [](IIdeRoot*) {
+       if (!addon().delivTool) return;
+       addon().delivTool->unregisterTool();
+       addon().delivTool->Release();
+       addon().delivTool = nullptr;
      }},
     {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
     {"delete the project clients", [](IIdeRoot*) { destroy(addon().projectClients); }},

@@ -9,6 +9,9 @@
 #include "ide/tool_table.h"
 
 class CompletionEngine;
+class DelivTool;
+class Delivery;
+class MakeSequence;
 class HelpFile;
 class Mail;
 class ProjectTestA;
@@ -30,6 +33,9 @@ struct AddonSlots {
   ServiceHolder<IIdeNodeOptions>* options = nullptr;
   Mail* mail = nullptr;
   TaskList* tasks = nullptr;
+  MakeSequence* makeSequence = nullptr;
+  Delivery* delivery = nullptr;
+  DelivTool* delivTool = nullptr;  // one reference ours; the tool service holds another while registered
 };
 
 AddonSlots& addon();

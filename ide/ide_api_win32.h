@@ -37,7 +37,8 @@ constexpr GUID clientFamily(unsigned char low) {
 constexpr GUID kProjectClient = clientFamily(0x01);
 constexpr GUID kProjectSaveClient = clientFamily(0x02);
 constexpr GUID kMakeClient = clientFamily(0x03);
-constexpr GUID kToolImplementor = clientFamily(0x04);
+// The delivery tool's implementor carries the IDE's own tool identifier.
+constexpr GUID kToolImplementor = {0x94D38B60, 0xE488, 0x11CE, {0xBA, 0x8F, 0x00, 0x00, 0xC0, 0xF4, 0xA3, 0x55}};
 constexpr GUID kMpdChapter = clientFamily(0x05);
 constexpr GUID kMpdPage = clientFamily(0x06);
 }  // namespace ide_iid
@@ -107,7 +108,8 @@ struct IIdeNodeOptions : IUnknown {
 // Build notifications.
 struct IMakeClient : IUnknown {
   virtual void __stdcall MakeStarted() = 0;
-  virtual void __stdcall MakeEnded() = 0;
+  // succeeded: the Make ended without errors.
+  virtual void __stdcall MakeEnded(BOOL succeeded) = 0;
 };
 
 struct IIdeMake : IUnknown {
@@ -154,13 +156,27 @@ struct IToolImplementor : IUnknown {
   virtual long __stdcall Execute(IIdeString* file) = 0;
 };
 
+// What a tool of the Tool menu is made of.
+struct IdeToolEntry {
+  long position;  // place in the menu, as the IDE counts it
+  IIdeString* name;
+  unsigned long flags;
+  IIdeString* description;
+  IIdeString* menuText;
+  IIdeString* text;  // the tool's help line
+  IToolImplementor* implementor;
+};
+
 // Registration and running of IDE tools.
 struct IIdeTools : IUnknown {
   // The tool of that name; 0 when unknown.
   virtual IdeHandle __stdcall FindTool(IIdeString* name) = 0;
   // -1 not handled, 0 fine, 1 warnings, 2 errors, 3 fatal error.
   virtual long __stdcall RunTool(IdeHandle tool, IIdeString* file) = 0;
-  virtual BOOL __stdcall AddTool(IIdeString* name, IIdeString* menuText, IToolImplementor* implementor) = 0;
+  // Adds a tool to the Tool menu; the service takes a reference to the implementor.
+  virtual BOOL __stdcall AddTool(const IdeToolEntry* tool) = 0;
+  // Removes a tool and releases its implementor.
+  virtual BOOL __stdcall DeleteTool(IdeHandle tool) = 0;
 };
 
 // One page of the add-on's chapter in the IDE's options dialog.

@@ -11,15 +11,15 @@ IIdeMake* gMakeService = nullptr;
 MakeClient* gMakeClient = nullptr;
 }  // namespace
 
-MakeClient::MakeClient(std::function<void()> started, std::function<void()> ended)
+MakeClient::MakeClient(std::function<void()> started, std::function<void(bool)> ended)
     : IUnknownImp(ide_iid::kMakeClient), started_(std::move(started)), ended_(std::move(ended)) {}
 
 void __stdcall MakeClient::MakeStarted() {
   if (started_) started_();
 }
 
-void __stdcall MakeClient::MakeEnded() {
-  if (ended_) ended_();
+void __stdcall MakeClient::MakeEnded(BOOL succeeded) {
+  if (ended_) ended_(succeeded != FALSE);
 }
 
 void registerMakeClient(const MakeClientFactory& create) {

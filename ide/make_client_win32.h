@@ -7,14 +7,14 @@
 
 class MakeClient : public IUnknownImp<IMakeClient> {
  public:
-  MakeClient(std::function<void()> started, std::function<void()> ended);
+  MakeClient(std::function<void()> started, std::function<void(bool succeeded)> ended);
 
   void __stdcall MakeStarted() override;
-  void __stdcall MakeEnded() override;
+  void __stdcall MakeEnded(BOOL succeeded) override;
 
  private:
   std::function<void()> started_;
-  std::function<void()> ended_;
+  std::function<void(bool)> ended_;
 };
 
 // Makes the client to register; null when it cannot be made.

@@ -5,13 +5,18 @@
 #include <memory>
 #include <new>
 
+#include "delivery/deliv_tool_win32.h"
+#include "delivery/delivery_run.h"
 #include "delivery/mail.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
+#include "html/ht_generation.h"
+#include "html/ht_thread_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_access_win32.h"
 #include "ide/ide_host_win32.h"
 #include "ide/make_client_win32.h"
+#include "ide/make_sequence.h"
 #include "tasks/task_list.h"
 
 namespace {
@@ -24,6 +29,18 @@ void emptyTasks() {
   addon().tasks->removeRange(0, 0);
 }
 
+void makeStarted() {
+  if (addon().makeSequence) addon().makeSequence->started(ideHost());
+}
+
+void makeEnded(bool succeeded) {
+  if (!addon().makeSequence) return;
+  const std::string projectFile = ideHost().projectFile();
+  addon().makeSequence->ended(ideHost(), succeeded, [&projectFile](const std::string& directory, const std::string& filters) {
+    startHtmlGenerationThread(directory, filters, htProjectName(projectFile));
+  });
+}
+
 }  // namespace
 
 ProjectOptions* openProjectOptions() { return gOpenProject.get(); }
@@ -32,6 +49,7 @@ void saveProjectOptions() {
   ProjectOptionStore* store = ideHost().projectOptions();
   if (!gOpenProject || !store) return;
   if (addon().mail) gOpenProject->mailRecipients = addon().mail->recipientTexts();
+  if (addon().delivery) storeDeliveryGroups(addon().delivery->groups, gOpenProject.get());
   writeProjectOptions(*store, *gOpenProject);
 }
 
@@ -46,17 +64,22 @@ void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
   }
   std::string directory = directoryOf(projectFile);
   os().setCurrentDirectory(directory.empty() ? os().currentDirectory() : directory, nullptr);
-  registerMakeClient([] { return new (std::nothrow) MakeClient(nullptr, nullptr); });
+  registerMakeClient([] { return new (std::nothrow) MakeClient(makeStarted, makeEnded); });
   ProjectOptionStore* store = ideHost().projectOptions();
   if (!store) return;
   gOpenProject = std::make_unique<ProjectOptions>(
       readProjectOptions(*store, settings().readInteger("TopBar", "Hierarchical", 0)));
+  if (addon().makeSequence) addon().makeSequence->setOptions(*gOpenProject);
+  if (gOpenProject->withDelivery && addon().delivTool) addon().delivTool->registerTool();
+  if (addon().delivery) addon().delivery->load(*gOpenProject);
   if (addon().mail) addon().mail->setRecipients(gOpenProject->mailRecipients);
 }
 
 void __stdcall ProjectClientImpl::ProjectClosed() {
   if (!gOpenProject) return;
   unregisterMakeClient();
+  if (addon().delivTool) addon().delivTool->unregisterTool();
+  if (addon().delivery) addon().delivery->groups.clear();
   if (addon().mail) addon().mail->setRecipients({});
   gOpenProject.reset();
 }

@@ -28,6 +28,11 @@ const ProjectNode* findNodeHoldingFile(const ProjectNode& root, const std::strin
   return nullptr;
 }
 
+std::string projectDirectoryOf(const std::string& projectFile) {
+  std::string directory = directoryOf(projectFile);
+  return directory.empty() ? os().currentDirectory() : directory;
+}
+
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name) {
   if (root.name == name) return &root;
   for (const ProjectNode& child : root.nodes)

@@ -22,6 +22,9 @@ enum class NodeOptionKind { IncludePath = 1, SourcePath = 3 };
 // searched depth-first from root; null when none holds it.
 const ProjectNode* findNodeHoldingFile(const ProjectNode& root, const std::string& file);
 
+// The directory of a project file; the current directory when the path names none.
+std::string projectDirectoryOf(const std::string& projectFile);
+
 // The first node of that name, depth-first; null when none.
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name);
 

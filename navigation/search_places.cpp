@@ -28,8 +28,7 @@ SearchPlaces searchPlaces(Host& host, const std::string& editorFile) {
   SearchPlaces places;
   std::string projectFile = host.projectFile();
   places.projectOpen = !projectFile.empty();
-  places.projectDirectory = places.projectOpen ? directoryOf(projectFile) : std::string();
-  if (places.projectDirectory.empty()) places.projectDirectory = os().currentDirectory();
+  places.projectDirectory = projectDirectoryOf(projectFile);
   const ProjectNode* root = host.projectRoot();
   if (!places.projectOpen || !root) return places;
   const ProjectNode* node = editorFile.empty() ? nullptr : findNodeHoldingFile(*root, editorFile);

@@ -137,11 +137,12 @@ TEST_F(IdeServicesTest, MakeClientHearsTheBuildUntilUnregistered) {
   std::vector<std::string> heard;
   auto alive = std::make_shared<int>(0);
   registerMakeClient([&heard, alive] {
-    return new MakeClient([&heard, alive] { heard.push_back("started"); }, [&heard] { heard.push_back("ended"); });
+    return new MakeClient([&heard, alive] { heard.push_back("started"); },
+                          [&heard](bool succeeded) { heard.push_back(succeeded ? "ended" : "failed"); });
   });
   ide_.make.fireMakeStarted();
-  ide_.make.fireMakeEnded();
-  EXPECT_EQ(heard, (std::vector<std::string>{"started", "ended"}));
+  ide_.make.fireMakeEnded(false);
+  EXPECT_EQ(heard, (std::vector<std::string>{"started", "failed"}));
 
   unregisterMakeClient();
   EXPECT_TRUE(ide_.make.clients.empty());

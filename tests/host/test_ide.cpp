@@ -165,8 +165,8 @@ void TestMake::fireMakeStarted() {
   for (IMakeClient* client : clients) client->MakeStarted();
 }
 
-void TestMake::fireMakeEnded() {
-  for (IMakeClient* client : clients) client->MakeEnded();
+void TestMake::fireMakeEnded(bool succeeded) {
+  for (IMakeClient* client : clients) client->MakeEnded(succeeded ? TRUE : FALSE);
 }
 
 IIdeString* __stdcall TestProject::ProjectFile() {
@@ -227,9 +227,22 @@ long __stdcall TestTools::RunTool(IdeHandle tool, IIdeString* file) {
   return result;
 }
 
-BOOL __stdcall TestTools::AddTool(IIdeString* name, IIdeString*, IToolImplementor* implementor) {
-  names.push_back(textOf(name));
-  added.push_back(implementor);
+BOOL __stdcall TestTools::AddTool(const IdeToolEntry* tool) {
+  names.push_back(textOf(tool->name));
+  tool->implementor->AddRef();
+  added.push_back({tool->position, textOf(tool->name), tool->flags, textOf(tool->description), textOf(tool->menuText),
+                   textOf(tool->text), tool->implementor});
+  return TRUE;
+}
+
+BOOL __stdcall TestTools::DeleteTool(IdeHandle tool) {
+  if (!tool || tool > names.size() || names[tool - 1].empty()) return FALSE;
+  for (Added& entry : added)
+    if (entry.name == names[tool - 1] && entry.implementor) {
+      entry.implementor->Release();
+      entry.implementor = nullptr;
+    }
+  names[tool - 1].clear();
   return TRUE;
 }
 

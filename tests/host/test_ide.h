@@ -112,7 +112,7 @@ class TestMake : public Counted<IIdeMake> {
   void __stdcall RemoveClient(IMakeClient* client) override;
   // What the IDE does around a Make.
   void fireMakeStarted();
-  void fireMakeEnded();
+  void fireMakeEnded(bool succeeded = true);
   std::vector<IMakeClient*> clients;
 };
 
@@ -164,12 +164,23 @@ class TestTools : public Counted<IIdeTools> {
   TestTools();
   IdeHandle __stdcall FindTool(IIdeString* name) override;
   long __stdcall RunTool(IdeHandle tool, IIdeString* file) override;
-  BOOL __stdcall AddTool(IIdeString* name, IIdeString* menuText, IToolImplementor* implementor) override;
+  BOOL __stdcall AddTool(const IdeToolEntry* tool) override;
+  BOOL __stdcall DeleteTool(IdeHandle tool) override;
 
-  std::vector<std::string> names;  // handle n is names[n - 1]
+  // A tool the add-on added, with its texts.
+  struct Added {
+    long position;
+    std::string name;
+    unsigned long flags;
+    std::string description;
+    std::string menuText;
+    std::string text;
+    IToolImplementor* implementor;  // one reference held while the tool exists
+  };
+  std::vector<std::string> names;  // handle n is names[n - 1]; "" once deleted
   std::vector<Run> runs;
   long result = 0;  // what every run answers
-  std::vector<IToolImplementor*> added;
+  std::vector<Added> added;  // in the order added; deleted ones stay with a null implementor
 };
 
 // The IDE's frame, document area and editor, project and message windows.

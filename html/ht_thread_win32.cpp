@@ -1,0 +1,36 @@
+// The worker thread of a documentation generation.
+#include "html/ht_thread_win32.h"
+
+#include <windows.h>
+
+#include <memory>
+#include <new>
+
+#include "html/ht_generation.h"
+
+namespace {
+
+struct Job {
+  std::string directory;
+  std::string filters;
+  std::string name;
+};
+
+DWORD WINAPI generate(LPVOID parameter) {
+  std::unique_ptr<Job> job(static_cast<Job*>(parameter));
+  htGenerationResult result;
+  runHtmlGeneration(job->directory, job->filters, job->name, &result);
+  return 0;
+}
+
+}  // namespace
+
+void startHtmlGenerationThread(const std::string& directory, const std::string& filters, const std::string& name) {
+  if (refuseWhileHtmlGenerationRuns()) return;
+  std::unique_ptr<Job> job(new (std::nothrow) Job{directory, filters, name});
+  if (!job) return;
+  HANDLE thread = CreateThread(nullptr, 0, generate, job.get(), 0, nullptr);
+  if (!thread) return;
+  job.release();  // the thread owns it now
+  CloseHandle(thread);
+}

@@ -1,0 +1,6 @@
+// Generated file : do not edit by hand
+#include "kesto.h"
+#include "rc.h"
+
+RCRCMAIN
+
