@@ -44,11 +44,4 @@ TEST(GwGetRules, AdviceFollowsTheRulesInOrder) {
   }
 }
 
-TEST(GwWords, OutOfRangeValuesHaveNoWord) {
-  EXPECT_STREQ(ageWord(4), "Conflict");
-  EXPECT_STREQ(ageWord(5), "");
-  EXPECT_STREQ(sendRequestWord(-1), "");
-  EXPECT_STREQ(getRequestWord(0), " ");
-}
-
 }  // namespace
