@@ -12,14 +12,17 @@
 #include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
+#include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
 #include "ide/help_file_win32.h"
+#include "ide/hook_set_win32.h"
 #include "ide/make_sequence.h"
 #include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
 #include "tasks/task_list.h"
+#include "topbar/recent_files.h"
 
 namespace {
 
@@ -139,14 +142,17 @@ const Step kInitialisation[] = {
     {"hold the status line service", createStatusLineHolder},
     {"fill the tool table", createToolTable},
     {"show or hide the bar", showBar},
-    {"install the hooks, given the bar", nullptr},
+    {"install the hooks, given the bar",
+     [](IIdeRoot*) {
+       if (addon().bar) addon().hooks = new (std::nothrow) HookSet(addon().bar, addonHookClient());
+     }},
     {"create and register the project clients",
      [](IIdeRoot*) {
        create<ProjectTestA>(addon().projectClients, nullptr);
        if (addon().projectClients) addon().projectClients->registerClients();
      }},
     {"create the delivery tool", [](IIdeRoot*) { addon().delivTool = new (std::nothrow) DelivTool(); }},
-    {"load the recent-file lists", nullptr},
+    {"load the recent-file lists", [](IIdeRoot*) { create(addon().recentFiles, &RecentFiles::load); }},
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
     {"create the task manager", [](IIdeRoot*) { create<TaskList>(addon().tasks, nullptr); }},
@@ -156,11 +162,11 @@ const Step kInitialisation[] = {
 };
 
 const Step kShutdown[] = {
-    {"save the recent-file lists", nullptr},
+    {"save the recent-file lists", [](IIdeRoot*) { saveAndDestroy(addon().recentFiles, &RecentFiles::save); }},
     {"delete the mail options", [](IIdeRoot*) { saveAndDestroy(addon().mail, &Mail::saveSettings); }},
     {"delete QuickFind", [](IIdeRoot*) { saveAndDestroy(addon().quickFind, &QuickFind::writeSettings); }},
     {"delete the delivery object", [](IIdeRoot*) { destroy(addon().delivery); }},
-    {"delete the hooks", nullptr},
+    {"delete the hooks", [](IIdeRoot*) { destroy(addon().hooks); }},
     {"delete the help file", [](IIdeRoot*) { destroy(addon().helpFile); }},
     {"delete the editor navigation",
      [](IIdeRoot*) { saveAndDestroy(addon().navigation, &SourceScanner::writeSettings); }},
@@ -215,6 +221,8 @@ bool attachAddon(HINSTANCE instance) {
 }
 
 void detachAddon() {
+  // Unloaded without a shutdown, the add-on must not leave hooks into its unloaded code.
+  destroy(addon().hooks);
   destroy(addon().environment);
   setAlertHandler(nullptr);
   settings().setBackend(nullptr);

@@ -13,9 +13,11 @@ class DelivTool;
 class Delivery;
 class MakeSequence;
 class HelpFile;
+class HookSet;
 class Mail;
 class ProjectTestA;
 class QuickFind;
+class RecentFiles;
 class SourceScanner;
 class TaskList;
 
@@ -36,6 +38,8 @@ struct AddonSlots {
   MakeSequence* makeSequence = nullptr;
   Delivery* delivery = nullptr;
   DelivTool* delivTool = nullptr;  // one reference ours; the tool service holds another while registered
+  HookSet* hooks = nullptr;
+  RecentFiles* recentFiles = nullptr;
 };
 
 AddonSlots& addon();

@@ -2,13 +2,23 @@
 #include "ide/bar_window_win32.h"
 
 #include "ide/addon_startup.h"
+#include "ide/bar_commands_win32.h"
+
+namespace {
+
+// A switchboard: the commands and private messages go to their owners.
+LRESULT CALLBACK barProcedure(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_COMMAND && dispatchBarCommand(bar, LOWORD(wParam), lParam)) return 0;
+  if (dispatchBarMessage(bar, message, wParam, lParam)) return 0;
+  return DefWindowProcA(bar, message, wParam, lParam);
+}
+
+}  // namespace
 
 bool registerBarClass(HINSTANCE instance) {
   WNDCLASSA barClass = {};
   barClass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
-  // The bar's commands are dispatched by the bar's own features as they come;
-  // until then the system's processing is all it needs.
-  barClass.lpfnWndProc = DefWindowProcA;
+  barClass.lpfnWndProc = barProcedure;
   barClass.hInstance = instance;
   barClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
   barClass.lpszClassName = kBarClassName;

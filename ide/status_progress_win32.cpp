@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include "ide/gdi_win32.h"
+
 namespace {
 
 // The IDE's status window: the frame's status bar child.
@@ -10,35 +12,6 @@ HWND statusWindow() {
   HWND frame = FindWindowA("CPPFRAME", nullptr);
   return frame ? FindWindowExA(frame, nullptr, "msctls_statusbar32", nullptr) : nullptr;
 }
-
-class WindowDc {
- public:
-  explicit WindowDc(HWND window) : window_(window), dc_(GetDC(window)) {}
-  ~WindowDc() {
-    if (dc_) ReleaseDC(window_, dc_);
-  }
-  WindowDc(const WindowDc&) = delete;
-  WindowDc& operator=(const WindowDc&) = delete;
-  HDC get() const { return dc_; }
-
- private:
-  HWND window_;
-  HDC dc_;
-};
-
-class Brush {
- public:
-  explicit Brush(COLORREF colour) : brush_(CreateSolidBrush(colour)) {}
-  ~Brush() {
-    if (brush_) DeleteObject(brush_);
-  }
-  Brush(const Brush&) = delete;
-  Brush& operator=(const Brush&) = delete;
-  HBRUSH get() const { return brush_; }
-
- private:
-  HBRUSH brush_;
-};
 
 }  // namespace
 
@@ -49,8 +22,8 @@ void drawStatusProgress(uint64_t done, uint64_t total, const std::string& item) 
   GetClientRect(window, &area);
   area.right -= 90;
   if (area.right <= area.left) return;
-  WindowDc dc(window);
-  Brush blue(0xFF0000);
+  WindowDc dc(window, GetDC(window));
+  GdiObject<HBRUSH> blue(CreateSolidBrush(0xFF0000));
   if (!dc.get() || !blue.get()) return;
   const LONG width = area.right - area.left;
   RECT filled = area;

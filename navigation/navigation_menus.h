@@ -19,6 +19,7 @@ constexpr uint32_t kFindMethodId = 191;
 constexpr uint32_t kFindClassId = 192;
 constexpr uint32_t kCrossReferenceId = 193;
 constexpr uint32_t kEditDocumentationId = 177;
+constexpr uint32_t kMethodResultsId = 184;
 
 // Free functions in the main popup, each run of adjacent methods of one class
 // in a submenu titled by the class; item i is 1000 + i. A popup starts a new

@@ -131,6 +131,26 @@ TEST(AddonProcessTest, BarIsAThinTopmostPopupOverTheScreenTop) {
   }
 }
 
+TEST(AddonProcessTest, EditorTitleBarShowsTheThreeBitmapsInBothLooks) {
+  for (const char* version : {"win95", "nt351"}) {
+    SCOPED_TRACE(version);
+    DWORD exitCode = 1;
+    Report report = run(testIdeNamed(std::string("buttons_") + version + ".exe", version),
+                        "buttons \"" + kAddon + "\"", &exitCode);
+    EXPECT_EQ(exitCode, 0u);
+    const bool newShell = std::string(version) == "win95";
+    EXPECT_EQ(number(report, "newShell"), newShell ? 1 : 0);
+    if (newShell)
+      EXPECT_GT(number(report, "originX"), 23) << "on the left side, just after the title";
+    else
+      EXPECT_EQ(number(report, "originX"), 23) << "the older look ignores the title";
+    EXPECT_EQ(number(report, "originY"), 4);
+    for (const char* button : {"button0", "button1", "button2"}) EXPECT_EQ(number(report, button), 24 * 18) << button;
+    EXPECT_EQ(number(report, "screenshot"), 1);
+    EXPECT_EQ(number(report, "referencesHeld"), 0);
+  }
+}
+
 TEST(AddonProcessTest, BarStaysHiddenWhenTheRegistrySaysSo) {
   const char* key = "SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob\\TopBar";
   HKEY topBar = nullptr;

@@ -53,6 +53,16 @@ void registerClass(const char* name, WNDPROC procedure) {
   RegisterClassA(&windowClass);
 }
 
+// The editor's text pane: an edit control under the IDE's class name, so that
+// selections and WM_COPY behave as in an editor.
+void registerEditorTextClass() {
+  WNDCLASSA editorText = {};
+  GetClassInfoA(nullptr, "EDIT", &editorText);
+  editorText.hInstance = GetModuleHandleA(nullptr);
+  editorText.lpszClassName = "EditWindClass";
+  RegisterClassA(&editorText);
+}
+
 HWND createChild(HWND documents, const char* windowClass, const std::string& title) {
   return CreateMDIWindowA(windowClass, title.c_str(), WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, 0, 0, 400, 300,
                           documents, GetModuleHandleA(nullptr), 0);
@@ -251,6 +261,7 @@ TestIdeWindows::TestIdeWindows() {
   registerClass("BCW5Editor", DefMDIChildProcA);
   registerClass("BCW5Project", DefMDIChildProcA);
   registerClass("BCW5Message", DefMDIChildProcA);
+  registerEditorTextClass();
   frame = CreateWindowExA(0, "CPPFRAME", "Borland C++ - demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN | WS_VISIBLE, 0,
                           40, 800, 560, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
   CLIENTCREATESTRUCT documentsCreate = {};
@@ -264,7 +275,14 @@ TestIdeWindows::~TestIdeWindows() {
   if (frame) DestroyWindow(frame);
 }
 
-HWND TestIdeWindows::openEditor(const std::string& title) { return createChild(documents, "BCW5Editor", title); }
+HWND TestIdeWindows::openEditor(const std::string& title, const std::string& text) {
+  HWND editor = createChild(documents, "BCW5Editor", title);
+  RECT client = {};
+  GetClientRect(editor, &client);
+  CreateWindowExA(0, "EditWindClass", text.c_str(), WS_CHILD | WS_VISIBLE | ES_MULTILINE | WS_VSCROLL, 0, 0,
+                  client.right, client.bottom, editor, nullptr, GetModuleHandleA(nullptr), nullptr);
+  return editor;
+}
 
 TestIde::TestIde() : Counted(GUID{}) { references = 1; }
 
@@ -304,7 +322,7 @@ IdeHandle TestIde::openFile(const std::string& file, const std::string& text) {
     buffer.lines.push_back(line);
     start = end + 1;
   }
-  buffer.window = windows.openEditor(file);
+  buffer.window = windows.openEditor(file, text);
   const IdeHandle view = editor.buffers.size() + 1;
   editor.buffers[view] = buffer;
   return view;

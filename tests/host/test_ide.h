@@ -190,8 +190,9 @@ class TestIdeWindows {
   ~TestIdeWindows();
   TestIdeWindows(const TestIdeWindows&) = delete;
   TestIdeWindows& operator=(const TestIdeWindows&) = delete;
-  // A "BCW5Editor" child of the document area, titled like the IDE's editors.
-  HWND openEditor(const std::string& title);
+  // A "BCW5Editor" child of the document area, titled like the IDE's editors,
+  // whose "EditWindClass" child holds text.
+  HWND openEditor(const std::string& title, const std::string& text = "");
   HWND frame = nullptr;
   HWND documents = nullptr;
   HWND project = nullptr;

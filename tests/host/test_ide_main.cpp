@@ -3,6 +3,7 @@
 //   kesto_test_ide probe REPORT         the add-on's view of the system
 //   kesto_test_ide bar DLL REPORT       the bar window the add-on creates
 //   kesto_test_ide load DLL REPORT      start and stop, answering any message box
+//   kesto_test_ide buttons DLL REPORT   an editor's title-bar buttons, read back pixel by pixel
 #include <windows.h>
 
 #include <cstdio>
@@ -10,7 +11,11 @@
 
 #include "addon_loader.h"
 #include "ide/addon_environment_win32.h"
+#include "ide/gdi_win32.h"
+#include "navigation/title_bar_geometry.h"
+#include "navigation/title_bar_win32.h"
 #include "test_ide.h"
+#include "ui_driver.h"
 
 namespace {
 
@@ -62,7 +67,37 @@ void reportBar(HMODULE module) {
   report("menuItem99", item);
 }
 
-int run(const std::string& mode, const char* dll) {
+// How many pixels of each button's bitmap the editor's title bar shows where
+// the add-on paints it, and a screenshot named after the program.
+void reportButtons(HMODULE module, TestIde* ide, const char* program) {
+  AddonEnvironment environment;
+  probeEnvironment(&environment);
+  ide->openFile("C:\\SRC\\FRAME.CPP", "int main(void)\n");
+  HWND editor = ide->editor.buffers.rbegin()->second.window;
+  pumpMessages(500);
+  RedrawWindow(editor, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+  pumpMessages(300);
+  const POINT origin = titleBarButtonsOrigin(editor, {module, environment.newShell != 0, true});
+  report("newShell", environment.newShell);
+  report("originX", origin.x);
+  report("originY", origin.y);
+  WindowDc window(editor, GetWindowDC(editor));
+  MemoryDc memory(CreateCompatibleDC(window.get()));
+  for (int32_t button = 0; button < kTitleBarButtons; ++button) {
+    GdiObject<HBITMAP> bitmap(LoadBitmapA(module, titleBarBitmap(button)));
+    Selection selected(memory.get(), bitmap.get());
+    int same = 0;
+    for (int y = 0; y < 18; ++y)
+      for (int x = 0; x < 24; ++x)
+        same += GetPixel(memory.get(), x, y) == GetPixel(window.get(), origin.x + button * 24 + x, origin.y + y);
+    report("button" + std::to_string(button), same);
+  }
+  std::string name = program;
+  name = name.substr(name.find_last_of("\\/") + 1);
+  report("screenshot", saveScreenshot("editor-" + name.substr(0, name.find('.'))) ? 1 : 0);
+}
+
+int run(const std::string& mode, const char* dll, const char* program) {
   if (mode == "probe") {
     AddonEnvironment environment;
     probeEnvironment(&environment);
@@ -78,6 +113,7 @@ int run(const std::string& mode, const char* dll) {
   if (!addon.start(&ide)) return 1;
   report("started", 1);
   if (mode == "bar") reportBar(addon.module());
+  if (mode == "buttons") reportButtons(addon.module(), &ide, program);
   addon.stop();
   report("stopped", 1);
   report("barAfterStop", FindWindowA("KADO", nullptr) ? 1 : 0);
@@ -93,12 +129,12 @@ int run(const std::string& mode, const char* dll) {
 int main(int argc, char** argv) {
   const bool probe = argc == 3 && std::string(argv[1]) == "probe";
   if (!probe && argc != 4) {
-    std::fprintf(stderr, "usage: kesto_test_ide probe REPORT | bar DLL REPORT | load DLL REPORT\n");
+    std::fprintf(stderr, "usage: kesto_test_ide probe REPORT | bar|load|buttons DLL REPORT\n");
     return 2;
   }
   gReport = std::fopen(argv[argc - 1], "w");
   if (!gReport) return 2;
-  const int status = run(argv[1], probe ? nullptr : argv[2]);
+  const int status = run(argv[1], probe ? nullptr : argv[2], argv[0]);
   std::fclose(gReport);
   return status;
 }

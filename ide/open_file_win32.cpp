@@ -1,0 +1,64 @@
+// Opening files in the IDE: an editor of the file brought forward, else the editor tool.
+#include "ide/open_file_win32.h"
+
+#include <windows.h>
+
+#include "foundation/settings.h"
+#include "ide/addon_slots_win32.h"
+#include "ide/editor_title.h"
+#include "ide/ide_host_win32.h"
+#include "ide/ide_windows_win32.h"
+#include "ide/tool_table.h"
+#include "topbar/recent_files.h"
+
+namespace {
+
+struct EditorSearch {
+  std::string upperPath;
+  HWND found;
+};
+
+// An editor whose title, less its view number and modified mark, is the path.
+BOOL CALLBACK visitEditor(HWND window, LPARAM lParam) {
+  auto* search = reinterpret_cast<EditorSearch*>(lParam);
+  char title[280] = {};
+  GetWindowTextA(window, title, sizeof title);
+  if (!hasClass(window, "BCW5Editor") || asciiUpper(editorFileName(title, sizeof title)) != search->upperPath)
+    return TRUE;
+  search->found = window;
+  return FALSE;
+}
+
+bool bringEditorForward(const std::string& path) {
+  HWND documents = ideDocuments();
+  if (!documents) return false;
+  EditorSearch search{asciiUpper(path), nullptr};
+  EnumChildWindows(documents, visitEditor, reinterpret_cast<LPARAM>(&search));
+  if (!search.found) return false;
+  ShowWindow(search.found, SW_SHOWNORMAL);
+  SetWindowPos(search.found, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+  SendMessageA(documents, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(search.found), 0);
+  return true;
+}
+
+}  // namespace
+
+bool openFileInIde(const std::string& path) {
+  // "EditOtherView" belongs to the top bar's settings: read where they are kept.
+  const bool otherView = settings().readInteger("TopBar", "EditOtherView", 0) != 0;
+  if (!otherView && !(GetKeyState(VK_SHIFT) & 0x8000) && bringEditorForward(path)) return true;
+  const int result = ideHost().runTool("EditText", path);
+  if (result == 0) return true;
+  ideHost().showStatus(toolResultText(result));
+  return false;
+}
+
+bool openAndRecord(const std::string& path) {
+  if (!openFileInIde(path)) return false;
+  if (addon().recentFiles) addon().recentFiles->rememberHeader(withoutLineSuffix(path));
+  return true;
+}
+
+void activateIdeFrame() {
+  if (HWND frame = ideFrame()) SetActiveWindow(frame);
+}
