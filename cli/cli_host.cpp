@@ -58,6 +58,12 @@ const ProjectNode* CliHost::projectRoot() { return project_ ? &project_->root() 
 
 ProjectOptionStore* CliHost::projectOptions() { return project_; }
 
+// The node goes into the project in memory; the command that added it saves the file.
+const ProjectNode* CliHost::addProjectNode(const ProjectNode& parent, const std::string& name,
+                                           const std::string& type) {
+  return project_ ? project_->addNodeUnder(parent, name, type) : nullptr;
+}
+
 int CliHost::runTool(const std::string&, const std::string&) { return -1; }
 
 MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {

@@ -33,6 +33,8 @@ class CliHost : public Host, public AlertHandler {
   std::string projectFile() override;
   const ProjectNode* projectRoot() override;
   ProjectOptionStore* projectOptions() override;
+  const ProjectNode* addProjectNode(const ProjectNode& parent, const std::string& name,
+                                    const std::string& type) override;
   int runTool(const std::string& tool, const std::string& file) override;
   MailResult sendMail(const MailMessage& message, std::string* err) override;
 

@@ -26,6 +26,7 @@ const std::vector<CommandGroup>& commandGroups() {
       {"make", "Run what the add-on does around a Make, with a build command in between", installMakeCommand},
       {"recent", "List the top bar's recent projects and headers", installRecentCommand},
       {"bar", "Print the top bar's menus for the project", installBarCommand},
+      {"gw", "Exchange files with the project's groupware server: send, get, locks", installGroupwareCommands},
   };
   return groups;
 }

@@ -39,3 +39,4 @@ void installDeliveryCommands(CLI::App& command, CliSession& session);
 void installMakeCommand(CLI::App& command, CliSession& session);
 void installRecentCommand(CLI::App& command, CliSession& session);
 void installBarCommand(CLI::App& command, CliSession& session);
+void installGroupwareCommands(CLI::App& command, CliSession& session);

@@ -192,6 +192,37 @@ bool KpjProject::save(std::string* err) {
   return os().writeFileAtomic(path_, document_.dump(2) + "\n", err);
 }
 
+namespace {
+
+// The child positions that lead from node to wanted; false when wanted is not below node.
+bool pathTo(const ProjectNode& node, const ProjectNode* wanted, std::vector<size_t>* path) {
+  if (&node == wanted) return true;
+  for (size_t i = 0; i < node.nodes.size(); ++i) {
+    path->push_back(i);
+    if (pathTo(node.nodes[i], wanted, path)) return true;
+    path->pop_back();
+  }
+  return false;
+}
+
+}  // namespace
+
+const ProjectNode* KpjProject::addNodeUnder(const ProjectNode& parent, const std::string& name,
+                                             const std::string& type) {
+  std::vector<size_t> path;
+  if (!pathTo(root_, &parent, &path)) return nullptr;
+  Json* holder = &document_;
+  for (size_t i : path) holder = &(*holder)["nodes"][i];
+  Json node = Json::object();
+  node["name"] = name;
+  if (!type.empty()) node["type"] = type;
+  (*holder)["nodes"].push_back(node);
+  if (!readRoot(nullptr)) return nullptr;
+  const ProjectNode* added = &root_;
+  for (size_t i : path) added = &added->nodes[i];
+  return &added->nodes.back();
+}
+
 bool KpjProject::get(const std::string& name, std::string* bytes) {
   auto options = document_.find("options");
   if (options == document_.end() || !options->is_object()) return false;

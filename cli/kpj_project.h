@@ -31,6 +31,11 @@ class KpjProject : public ProjectOptionStore {
   // "description", "include_path" and "source_path", holding the file's nodes.
   const ProjectNode& root() const { return root_; }
 
+  // Adds a node under parent, a node of root()'s tree, in the tree and in the
+  // document (save() writes it); null when parent is not in the tree. Only the
+  // returned pointer stays valid.
+  const ProjectNode* addNodeUnder(const ProjectNode& parent, const std::string& name, const std::string& type);
+
   // Integers are JSON integers, texts JSON strings with their marker.
   bool get(const std::string& name, std::string* bytes) override;
   bool set(const std::string& name, const std::string& bytes) override;

@@ -1,12 +1,14 @@
 // kesto project new|show|set: the project file and its per-project options.
 #include <cstdlib>
 #include <iostream>
+#include <map>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
+#include "groupware/quick_add_presenter.h"
 
 namespace {
 
@@ -16,7 +18,13 @@ struct ProjectArguments {
   std::string value;
   std::string type;
   std::string parent;
+  std::string at;         // quick-add: the current node
+  std::string container;  // quick-add: a new container's name
+  std::string level = "parent";
 };
+
+const std::map<std::string, ContainerLevel> kLevels = {
+    {"sibling", ContainerLevel::Sibling}, {"parent", ContainerLevel::Parent}, {"root", ContainerLevel::Root}};
 
 // Records the options in the order that saving writes them.
 class OrderedOptions : public ProjectOptionStore {
@@ -113,6 +121,35 @@ void editTree(CliSession& session, Edit edit) {
   }
 }
 
+// Quick add as the dialog does it, then the project file is saved.
+void quickAdd(CliSession& session, const ProjectArguments& args, bool withContainer) {
+  if (!session.requireProject()) return;
+  KpjProject& project = *session.project();
+  const ProjectNode* current = findNodeNamed(project.root(), args.at);
+  if (!current) {
+    reportError("no node named " + args.at + " in " + project.path());
+    session.exitStatus = kExitNothing;
+    return;
+  }
+  QuickAddPresenter presenter(session.host(), project.root(), *current);
+  presenter.name = args.name;
+  presenter.newContainer = withContainer;
+  presenter.containerName = args.container;
+  presenter.level = kLevels.at(args.level);
+  std::string err;
+  if (!presenter.ok()) {
+    session.exitStatus = kExitNothing;
+  } else if (!presenter.result()) {
+    reportError("the project refused the node " + args.name);
+    session.exitStatus = kExitNothing;
+  } else if (!project.save(&err)) {
+    reportError(err);
+    session.exitStatus = kExitNothing;
+  } else {
+    std::cout << presenter.result()->name << '\n';
+  }
+}
+
 }  // namespace
 
 void installProjectCommands(CLI::App& command, CliSession& session) {
@@ -146,4 +183,16 @@ void installProjectCommands(CLI::App& command, CliSession& session) {
   removeCommand->callback([&session, args] {
     editTree(session, [args](KpjProject& project, std::string* err) { return project.removeNode(args->name, err); });
   });
+
+  CLI::App* quickAddCommand =
+      command.add_subcommand("quick-add", "Add a source node beside a node, optionally in a new container");
+  quickAddCommand->add_option("name", args->name, "The new node's name (\".cpp\" is added when it has no dot)")
+      ->required();
+  quickAddCommand->add_option("--at", args->at, "The node the new one goes beside")->required();
+  CLI::Option* container =
+      quickAddCommand->add_option("--container", args->container, "Put the node in a new container of this name");
+  quickAddCommand->add_option("--level", args->level, "Where the container goes (default parent)")
+      ->check(CLI::IsMember({"sibling", "parent", "root"}))
+      ->needs(container);
+  quickAddCommand->callback([&session, args, container] { quickAdd(session, *args, container->count() > 0); });
 }

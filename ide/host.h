@@ -68,6 +68,12 @@ class Host {
   virtual const ProjectNode* projectRoot() = 0;
   // The project's own option storage; null when no project is open.
   virtual ProjectOptionStore* projectOptions() = 0;
+  // Adds a node named name under parent, a node of projectRoot()'s tree, with
+  // the node type type ("" for the IDE's default). Returns the new node, or null
+  // when the project refused it. Other nodes of the tree may move: only the
+  // returned pointer is valid afterwards.
+  virtual const ProjectNode* addProjectNode(const ProjectNode& parent, const std::string& name,
+                                            const std::string& type) = 0;
 
   // Runs an IDE tool ("EditText", "Project", ...) on a file: -1 not handled,
   // 0 fine, 1 warnings, 2 errors, 3 fatal error.

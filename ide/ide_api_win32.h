@@ -141,6 +141,8 @@ struct IIdeProject : IUnknown {
   virtual IIdeString* __stdcall NodeDescription(IdeHandle node) = 0;
   virtual void __stdcall AddClient(IProjectClient* client) = 0;
   virtual void __stdcall RemoveClient(IProjectClient* client) = 0;
+  // A new node under parent; a null type asks for the default one. 0 when refused.
+  virtual IdeHandle __stdcall AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) = 0;
 };
 
 struct IIdeProjectSave : IUnknown {

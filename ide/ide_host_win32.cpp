@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <map>
 #include <vector>
 
 #include "ide/addon_slots_win32.h"
@@ -81,9 +82,26 @@ class IdeHost : public Host {
     if (!top) return nullptr;
     root_ = ProjectNode();
     readNode(project.get(), top, &root_);
+    handles_.clear();
+    noteHandles(project.get(), top, root_);
     return &root_;
   }
   ProjectOptionStore* projectOptions() override { return projectFile().empty() ? nullptr : &options_; }
+
+  const ProjectNode* addProjectNode(const ProjectNode& parent, const std::string& name,
+                                    const std::string& type) override {
+    IdeRef<IIdeProject> project(getService<IIdeProject>(ide_iid::kProject));
+    auto found = handles_.find(&parent);
+    IdeText ideName(name);
+    IdeText ideType(type);
+    if (!project || found == handles_.end() || !ideName || !ideType) return nullptr;
+    const IdeHandle added = project->AddNode(found->second, ideName.get(), type.empty() ? nullptr : ideType.get());
+    // The tree is read again so that it shows the IDE's own view of the new node.
+    if (!added || !projectRoot()) return nullptr;
+    for (const auto& [node, handle] : handles_)
+      if (handle == added) return node;
+    return nullptr;
+  }
 
   int runTool(const std::string& tool, const std::string& file) override {
     IdeRef<IIdeTools> tools(getService<IIdeTools>(ide_iid::kTools));
@@ -126,7 +144,17 @@ class IdeHost : public Host {
     }
   }
 
+  // Once the tree is complete, its nodes no longer move: the handle of each.
+  void noteHandles(IIdeProject* project, IdeHandle handle, const ProjectNode& node) {
+    handles_[&node] = handle;
+    size_t i = 0;
+    for (IdeHandle child = project->FirstChild(handle); child && i < node.nodes.size();
+         child = project->NextSibling(child))
+      noteHandles(project, child, node.nodes[i++]);
+  }
+
   ProjectNode root_;
+  std::map<const ProjectNode*, IdeHandle> handles_;
   IdeProjectOptionStore options_;
 };
 

@@ -44,6 +44,14 @@ const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& nam
   return nullptr;
 }
 
+const ProjectNode* parentOf(const ProjectNode& root, const ProjectNode& node) {
+  for (const ProjectNode& child : root.nodes) {
+    if (&child == &node) return &root;
+    if (const ProjectNode* found = parentOf(child, node)) return found;
+  }
+  return nullptr;
+}
+
 namespace {
 
 const std::string& ownOption(const ProjectNode& node, NodeOptionKind kind) {

@@ -32,6 +32,10 @@ std::string projectPath(const std::string& projectDirectory, const std::string& 
 // The first node of that name, depth-first; null when none.
 const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& name);
 
+// The node that holds node among its children, searched from root; null for
+// root itself and for a node outside the tree.
+const ProjectNode* parentOf(const ProjectNode& root, const ProjectNode& node);
+
 // The option of a node of root's tree: its own value, else its nearest
 // ancestor's, as the IDE's nodes inherit options; false when none has one.
 bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind kind, std::string* value);

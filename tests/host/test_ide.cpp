@@ -207,6 +207,11 @@ IIdeString* __stdcall TestProject::NodeDescription(IdeHandle node) {
 
 void __stdcall TestProject::RemoveClient(IProjectClient* client) { removeClient(&clients, client); }
 
+IdeHandle __stdcall TestProject::AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) {
+  if (!parent || parent > nodes.size() || !name) return 0;
+  return addNode(parent, textOf(name), type ? textOf(type) : "");
+}
+
 IdeHandle TestProject::addNode(IdeHandle parent, const std::string& name, const std::string& type,
                                const std::string& description) {
   nodes.push_back({name, type, description, parent});

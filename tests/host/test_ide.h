@@ -134,6 +134,7 @@ class TestProject : public Counted<IIdeProject> {
   IIdeString* __stdcall NodeDescription(IdeHandle node) override;
   void __stdcall AddClient(IProjectClient* client) override { clients.push_back(client); }
   void __stdcall RemoveClient(IProjectClient* client) override;
+  IdeHandle __stdcall AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) override;
 
   // Node handles are 1-based positions; the first node added is the top one (parent 0).
   IdeHandle addNode(IdeHandle parent, const std::string& name, const std::string& type,

@@ -74,6 +74,14 @@ class FakeHost : public Host {
   std::string projectFile() override { return projectPath; }
   const ProjectNode* projectRoot() override { return projectPath.empty() ? nullptr : &root; }
   ProjectOptionStore* projectOptions() override { return projectPath.empty() ? nullptr : &options; }
+  const ProjectNode* addProjectNode(const ProjectNode& parent, const std::string& name,
+                                    const std::string& type) override {
+    if (type == refusedNodeType) return nullptr;
+    ProjectNode* holder = nodeAt(root, &parent);
+    if (!holder) return nullptr;
+    holder->nodes.push_back(ProjectNode{name, type, "", "", "", {}});
+    return &holder->nodes.back();
+  }
   int runTool(const std::string& tool, const std::string& file) override {
     toolRuns.emplace_back(tool, file);
     return toolResult;
@@ -90,6 +98,7 @@ class FakeHost : public Host {
   std::string projectPath;  // empty: no project open
   ProjectNode root;
   MemoryOptionStore options;
+  std::string refusedNodeType = "-";  // the project refuses nodes of this type
   int toolResult = 0;
   MailResult mailResult = MailResult::Sent;
 
@@ -103,6 +112,14 @@ class FakeHost : public Host {
   std::vector<std::pair<std::string, int32_t>> wentTo;
   std::vector<std::pair<std::string, std::string>> toolRuns;
   std::vector<MailMessage> mails;
+
+ private:
+  static ProjectNode* nodeAt(ProjectNode& node, const ProjectNode* wanted) {
+    if (&node == wanted) return &node;
+    for (ProjectNode& child : node.nodes)
+      if (ProjectNode* found = nodeAt(child, wanted)) return found;
+    return nullptr;
+  }
 };
 
 // Records every box and answers with a chosen answer, for the lifetime of the object.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -63,7 +64,9 @@ class FaultOs : public Os {
   bool setCurrentDirectory(const std::string& p, std::string* e) override {
     return tick(e) && platformOs().setCurrentDirectory(p, e);
   }
-  std::string userName() override { return platformOs().userName(); }
+  // A test may play another user; by default the real one.
+  std::optional<std::string> user;
+  std::string userName() override { return user ? *user : platformOs().userName(); }
   SystemTime localTime() override { return platformOs().localTime(); }
   SystemTime systemTime() override { return platformOs().systemTime(); }
   std::string formatDate(const SystemTime& d, DateForm f, LocaleChoice l) override {

@@ -1,0 +1,25 @@
+// The opening check and the mail of the two groupware dialogs.
+#include "groupware/gw_list_presenter.h"
+
+#include "foundation/alert.h"
+#include "groupware/tree_scan.h"
+#include "navigation/search_places.h"
+#include "tasks/task_notification.h"
+
+bool groupwareRoots(Host& host, const GroupwareSettings& settings, GwRoots* roots) {
+  if (settings.server.empty()) {
+    alert("You must specify a server directory (options dialog)\nbefore calling this function !",
+          "Kesto AddOn error", kAlertIconExclamation);
+    return false;
+  }
+  SearchPlaces places = searchPlaces(host, "");
+  roots->project = normalizeRoot(places.projectDirectory);
+  roots->server = normalizeRoot(searchDirectory(places, settings.server.str()));
+  return true;
+}
+
+void mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
+                         const std::string& report) {
+  if (flag == 0 || report.empty() || mail.recipients.count() == 0) return;
+  mail.send(host, subjectStart + projectNameOf(host.projectFile()), report, "");
+}
