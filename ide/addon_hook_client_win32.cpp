@@ -5,6 +5,7 @@
 #include "completion/completion_engine.h"
 #include "foundation/settings.h"
 #include "ide/addon_slots_win32.h"
+#include "ide/general_behaviours_win32.h"
 #include "navigation/navigation_commands_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
@@ -37,8 +38,10 @@ class AddonHookClient : public HookClient {
   }
   bool barFollowsFrame() override { return topBarSetting("Enabled", 1) && topBarSetting("HideWithBCW", 1); }
   bool barAlwaysOnTop() override { return topBarSetting("AlwaysOnTop", 0); }
-  // The general behaviours that count the IDE's command are still to come.
-  void frameCommandSeen() override {}
+  // The IDE's own save restarts the auto-save countdown.
+  void frameCommandSeen() override {
+    if (addon().general) addon().general->resetAutoSave();
+  }
 };
 
 }  // namespace

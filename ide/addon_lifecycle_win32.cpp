@@ -15,6 +15,7 @@
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
+#include "ide/general_behaviours_win32.h"
 #include "ide/help_file_win32.h"
 #include "ide/hook_set_win32.h"
 #include "ide/make_sequence.h"
@@ -138,7 +139,12 @@ const Step kInitialisation[] = {
        if (addon().bar) addon().topBar = new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0);
      }},
     {"create the completion engine", createCompletion},
-    {"create the general behaviours", [](IIdeRoot*) { create<MakeSequence>(addon().makeSequence, nullptr); }},
+    {"create the general behaviours",
+     [](IIdeRoot*) {
+       create<GeneralBehaviours>(addon().general, nullptr);
+       create<MakeSequence>(addon().makeSequence, nullptr);
+       if (addon().bar) SetTimer(addon().bar, kBarTimer, 1000, nullptr);
+     }},
     {"create the delivery object", [](IIdeRoot*) { create<Delivery>(addon().delivery, nullptr); }},
     {"hold the editor service", createEditorHolder},
     {"hold the status line service", createStatusLineHolder},
@@ -181,7 +187,12 @@ const Step kShutdown[] = {
     {"delete the completion engine",
      [](IIdeRoot*) { saveAndDestroy(addon().completion, &CompletionEngine::writeSettings); }},
     {"release the editor service", [](IIdeRoot*) { destroy(addon().editor); }},
-    {"delete the general behaviours", [](IIdeRoot*) { destroy(addon().makeSequence); }},
+    {"delete the general behaviours",
+     [](IIdeRoot*) {
+       if (addon().bar) KillTimer(addon().bar, kBarTimer);
+       destroy(addon().makeSequence);
+       destroy(addon().general);
+     }},
     {"release the status line service", [](IIdeRoot*) { destroy(addon().statusLine); }},
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
     {"save the tasks and delete the task manager",

@@ -12,6 +12,7 @@ class CompletionEngine;
 class DelivTool;
 class Delivery;
 class MakeSequence;
+class GeneralBehaviours;
 class HelpFile;
 class HookSet;
 class Mail;
@@ -42,6 +43,7 @@ struct AddonSlots {
   HookSet* hooks = nullptr;
   RecentFiles* recentFiles = nullptr;
   TopBar* topBar = nullptr;
+  GeneralBehaviours* general = nullptr;
 };
 
 AddonSlots& addon();

@@ -2,6 +2,8 @@
 #include "ide/bar_commands_win32.h"
 
 #include "ide/addon_slots_win32.h"
+#include "ide/general_behaviours_win32.h"
+#include "ide/project_client_win32.h"
 #include "ide/hook_set_win32.h"
 #include "topbar/top_bar_win32.h"
 
@@ -47,6 +49,9 @@ bool dispatchBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
   const int line = static_cast<int>(wParam);
   const char* path = reinterpret_cast<const char*>(lParam);
   switch (message) {
+    case WM_TIMER:
+      if (wParam == kBarTimer && addon().general) addon().general->timerTick(openProjectOptions() != nullptr);
+      return wParam == kBarTimer;
     case WM_INITMENU:
       if (addon().topBar && !titleBarPopupOpen()) addon().topBar->expand();
       return false;

@@ -76,6 +76,8 @@ struct IIdeEditor : IUnknown {
   virtual void __stdcall InsertText(IdeHandle view, IIdeString* text) = 0;
   // The buffer's whole text, unsaved changes included (the file stream).
   virtual IIdeString* __stdcall ReadBuffer(IdeHandle view) = 0;
+  // Saves every modified buffer: how many, and in *names the text naming them.
+  virtual long __stdcall SaveAll(IIdeString** names) = 0;
 };
 
 // The message window: messages under named groups, located or plain.

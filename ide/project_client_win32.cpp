@@ -15,6 +15,7 @@
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_access_win32.h"
 #include "ide/ide_host_win32.h"
+#include "ide/general_behaviours_win32.h"
 #include "ide/make_client_win32.h"
 #include "ide/make_sequence.h"
 #include "topbar/recent_files.h"
@@ -35,10 +36,12 @@ void emptyTasks() {
 }
 
 void makeStarted() {
+  if (addon().general) addon().general->makeStarted();
   if (addon().makeSequence) addon().makeSequence->started(ideHost());
 }
 
 void makeEnded(bool succeeded) {
+  if (addon().general) addon().general->makeEnded();
   if (!addon().makeSequence) return;
   const std::string projectFile = ideHost().projectFile();
   addon().makeSequence->ended(ideHost(), succeeded, [&projectFile](const std::string& directory, const std::string& filters) {
@@ -92,6 +95,7 @@ void readOpenProject(const std::string& projectFile) {
   }
   std::string directory = directoryOf(projectFile);
   os().setCurrentDirectory(directory.empty() ? os().currentDirectory() : directory, nullptr);
+  if (addon().general) addon().general->projectOpened();
   registerMakeClient([] { return new (std::nothrow) MakeClient(makeStarted, makeEnded); });
   ProjectOptionStore* store = ideHost().projectOptions();
   if (!store) return;

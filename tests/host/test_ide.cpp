@@ -38,8 +38,17 @@ void removeClient(std::vector<Client*>* clients, Client* client) {
 
 bool sameFile(const std::string& a, const std::string& b) { return lstrcmpiA(a.c_str(), b.c_str()) == 0; }
 
+HWND createChild(HWND documents, const char* windowClass, const std::string& title);
+
+// The IDE's menu commands that show its project and message windows, made anew when closed.
 LRESULT CALLBACK frameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   HWND documents = FindWindowExA(window, nullptr, "MDIClient", nullptr);
+  if (message == WM_COMMAND && (wParam == 13251 || wParam == 13252)) {
+    const char* windowClass = wParam == 13251 ? "BCW5Project" : "BCW5Message";
+    if (!FindWindowExA(documents, nullptr, windowClass, nullptr))
+      createChild(documents, windowClass, wParam == 13251 ? "Project" : "Message");
+    return 0;
+  }
   return DefFrameProcA(window, documents, message, wParam, lParam);
 }
 
@@ -139,6 +148,19 @@ IIdeString* __stdcall TestEditor::ReadBuffer(IdeHandle view) {
   std::string text;
   for (const std::string& line : found->lines) text += line + "\r\n";
   return newString(text);
+}
+
+long __stdcall TestEditor::SaveAll(IIdeString** names) {
+  long saved = 0;
+  std::string text;
+  for (auto& [view, buffer] : buffers) {
+    if (!buffer.modified) continue;
+    text += (saved++ ? ", " : "") + buffer.file;
+    buffer.modified = false;
+  }
+  *names = newString(text);
+  log.push_back("save all " + std::to_string(saved));
+  return saved;
 }
 
 IdeHandle __stdcall TestMessageWindow::AddMessage(IIdeString* group, IIdeString*, IdeHandle parent, IIdeString* text,

@@ -44,6 +44,7 @@ struct TestBuffer {
   long column = 1;
   long line = 1;
   HWND window = nullptr;
+  bool modified = false;  // saved, and cleared, by SaveAll
 };
 
 class TestEditor : public Counted<IIdeEditor> {
@@ -59,6 +60,7 @@ class TestEditor : public Counted<IIdeEditor> {
   IIdeString* __stdcall GetLine(IdeHandle view, long line) override;
   void __stdcall InsertText(IdeHandle view, IIdeString* text) override;
   IIdeString* __stdcall ReadBuffer(IdeHandle view) override;
+  long __stdcall SaveAll(IIdeString** names) override;
 
   std::map<IdeHandle, TestBuffer> buffers;
   IdeHandle current = 0;

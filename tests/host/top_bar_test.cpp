@@ -122,3 +122,63 @@ TEST_F(TopBarTest, ExpandsToEveryRowWhileAMenuIsOpenAndRemembersProjectsAcrossLo
 }
 
 }  // namespace
+
+namespace {
+
+RECT placeOf(const char* windowClass) {
+  RECT rect{};
+  HWND documents = FindWindowExA(FindWindowA("CPPFRAME", nullptr), nullptr, "MDIClient", nullptr);
+  GetWindowRect(FindWindowExA(documents, nullptr, windowClass, nullptr), &rect);
+  return rect;
+}
+
+bool isOpen(const char* windowClass) {
+  HWND documents = FindWindowExA(FindWindowA("CPPFRAME", nullptr), nullptr, "MDIClient", nullptr);
+  return FindWindowExA(documents, nullptr, windowClass, nullptr) != nullptr;
+}
+
+TEST_F(TopBarTest, AMakeClosesTheProjectAndMessageWindowsAndPutsThemBackWhereTheyWere) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  MoveWindow(ide_.windows.project, 30, 40, 300, 200, TRUE);
+  const RECT projectBefore = placeOf("BCW5Project");
+  const RECT messagesBefore = placeOf("BCW5Message");
+  ide_.make.fireMakeStarted();
+  pumpMessages(100);
+  EXPECT_FALSE(isOpen("BCW5Project"));
+  EXPECT_FALSE(isOpen("BCW5Message"));
+  ide_.make.fireMakeEnded();
+  pumpMessages(100);
+  ASSERT_TRUE(isOpen("BCW5Project"));
+  ASSERT_TRUE(isOpen("BCW5Message"));
+  const RECT projectAfter = placeOf("BCW5Project");
+  EXPECT_EQ(projectAfter.left, projectBefore.left);
+  EXPECT_EQ(projectAfter.top, projectBefore.top);
+  EXPECT_EQ(projectAfter.right - projectAfter.left, projectBefore.right - projectBefore.left);
+  EXPECT_EQ(placeOf("BCW5Message").top, messagesBefore.top);
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(TopBarTest, ModifiedEditorsAreSavedOnTheThreeHundredthTick) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  const IdeHandle view = ide_.openFile("C:\\BIG\\FILE1.CPP", "int x;\n");
+  ide_.editor.buffers[view].modified = true;
+  HWND bar = FindWindowA("KADO", nullptr);
+  for (int tick = 1; tick < 300; ++tick) SendMessageA(bar, WM_TIMER, 1, 0);
+  EXPECT_EQ(ide_.editor.buffers[view].modified, true) << "nothing before the 300th tick";
+  SendMessageA(bar, WM_TIMER, 1, 0);
+  EXPECT_FALSE(ide_.editor.buffers[view].modified);
+  EXPECT_EQ(ide_.statusLine.texts.back(), "Auto-save (5 min) : C:\\BIG\\FILE1.CPP.");
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+}  // namespace
