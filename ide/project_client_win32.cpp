@@ -109,7 +109,10 @@ void readOpenProject(const std::string& projectFile) {
 
 }  // namespace
 
-void __stdcall ProjectClientImpl::NodeChanged(IdeHandle) {}
+// A renamed node shows under its new name: the menus are built again from the tree.
+void __stdcall ProjectClientImpl::NodeChanged(IdeHandle) {
+  if (gOpenProject && addon().topBar) addon().topBar->rebuildMenu();
+}
 
 void __stdcall ProjectClient2Impl::ProjectSaving() { saveProjectOptions(); }
 

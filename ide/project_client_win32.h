@@ -10,7 +10,7 @@ class ProjectClientImpl : public IUnknownImp<IProjectClient> {
   ProjectClientImpl() : IUnknownImp(ide_iid::kProjectClient) {}
   void __stdcall ProjectOpened(IIdeString* projectFile) override;
   void __stdcall ProjectClosed() override;
-  // Keeps the bar's project-file items in step with node names, once the bar has them.
+  // Keeps the bar's project-file items in step with node names.
   void __stdcall NodeChanged(IdeHandle node) override;
 };
 

@@ -76,6 +76,11 @@ TEST_F(TopBarTest, MenusFollowTheProjectInBothConstructions) {
   EXPECT_EQ(nested.find("\nutil.lib"), std::string::npos);
   showBarMenu(1, "top-bar-hierarchical-files");
 
+  // A renamed node keeps its item, under its new name.
+  ide_.project.nodes[2].name = "renamed.cpp";
+  ide_.project.clients[0]->NodeChanged(3);
+  EXPECT_NE(barMenu().find("\nbig.exe\n  10000 renamed.cpp\n"), std::string::npos) << barMenu();
+
   // The status line names the highlighted item.
   const size_t before = ide_.statusLine.texts.size();
   SendMessageA(FindWindowA("KADO", nullptr), WM_MENUSELECT, MAKEWPARAM(10001, MF_STRING), 0);
