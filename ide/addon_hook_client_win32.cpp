@@ -1,22 +1,21 @@
-// The hooks' client on the add-on's objects. The top bar's settings are read
-// from the store, where the bar keeps them.
+// The hooks' client on the add-on's objects.
 #include "ide/addon_hook_client_win32.h"
 
 #include "completion/completion_engine.h"
-#include "foundation/settings.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/general_behaviours_win32.h"
 #include "navigation/navigation_commands_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
 #include "navigation/title_bar_win32.h"
+#include "topbar/top_bar_win32.h"
 
 namespace {
 
-constexpr const char* kTopBar = "TopBar";
-
-bool topBarSetting(const char* name, int32_t defaultValue) {
-  return settings().readInteger(kTopBar, name, defaultValue) != 0;
+// The bar's settings as its object holds them; the defaults while it is missing.
+const TopBarSettings& topBarSettings() {
+  static const TopBarSettings defaults;
+  return addon().topBar ? addon().topBar->settings : defaults;
 }
 
 class AddonHookClient : public HookClient {
@@ -33,11 +32,11 @@ class AddonHookClient : public HookClient {
     return addon().quickFind ? addon().quickFind->settings().keys : std::array<uint16_t, 4>{};
   }
   bool rebuildsOnProjectView() override {
-    return addon().bar && IsWindowVisible(addon().bar) && topBarSetting("HideWithView", 0) &&
-           settings().readInteger(kTopBar, "Hierarchical", 0) < 2;
+    const TopBarSettings& bar = topBarSettings();
+    return addon().bar && IsWindowVisible(addon().bar) && bar.hideWithView && bar.construction < 2;
   }
-  bool barFollowsFrame() override { return topBarSetting("Enabled", 1) && topBarSetting("HideWithBCW", 1); }
-  bool barAlwaysOnTop() override { return topBarSetting("AlwaysOnTop", 0); }
+  bool barFollowsFrame() override { return topBarSettings().enabled && topBarSettings().hideWithIde; }
+  bool barAlwaysOnTop() override { return topBarSettings().alwaysOnTop != 0; }
   // The IDE's own save restarts the auto-save countdown.
   void frameCommandSeen() override {
     if (addon().general) addon().general->resetAutoSave();

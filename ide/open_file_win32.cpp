@@ -3,13 +3,13 @@
 
 #include <windows.h>
 
-#include "foundation/settings.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/editor_title.h"
 #include "ide/ide_host_win32.h"
 #include "ide/ide_windows_win32.h"
 #include "ide/tool_table.h"
 #include "topbar/recent_files.h"
+#include "topbar/top_bar_win32.h"
 
 namespace {
 
@@ -44,8 +44,7 @@ bool bringEditorForward(const std::string& path) {
 }  // namespace
 
 bool openFileInIde(const std::string& path) {
-  // "EditOtherView" belongs to the top bar's settings: read where they are kept.
-  const bool otherView = settings().readInteger("TopBar", "EditOtherView", 0) != 0;
+  const bool otherView = addon().topBar && addon().topBar->settings.editOtherView != 0;
   if (!otherView && !(GetKeyState(VK_SHIFT) & 0x8000) && bringEditorForward(path)) return true;
   const int result = ideHost().runTool("EditText", path);
   if (result == 0) return true;
