@@ -48,6 +48,12 @@ class FileHandle {
   FileHandle& operator=(const FileHandle&) = delete;
   bool valid() const { return handle_ != INVALID_HANDLE_VALUE; }
   HANDLE get() const { return handle_; }
+  // Closes now; false when the system refused (data it deferred may be lost).
+  bool close() {
+    HANDLE handle = handle_;
+    handle_ = INVALID_HANDLE_VALUE;
+    return CloseHandle(handle) != FALSE;
+  }
 
  private:
   HANDLE handle_;
@@ -55,35 +61,26 @@ class FileHandle {
 
 class WindowsFile : public OsFile {
  public:
-  WindowsFile(HANDLE handle, std::string path) : handle_(handle), path_(std::move(path)) {}
-  ~WindowsFile() override {
-    if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
-  }
-  WindowsFile(const WindowsFile&) = delete;
-  WindowsFile& operator=(const WindowsFile&) = delete;
+  WindowsFile(HANDLE handle, std::string path) : file_(handle), path_(std::move(path)) {}
 
   bool read(char* buffer, size_t size, size_t* got, std::string* err) override {
     DWORD n = 0;
-    if (!ReadFile(handle_, buffer, static_cast<DWORD>(size), &n, nullptr)) return fail(err, "ReadFile", path_);
+    if (!ReadFile(file_.get(), buffer, static_cast<DWORD>(size), &n, nullptr)) return fail(err, "ReadFile", path_);
     *got = n;
     return true;
   }
 
   bool write(const char* data, size_t size, std::string* err) override {
     DWORD written = 0;
-    if (!WriteFile(handle_, data, static_cast<DWORD>(size), &written, nullptr) || written != size)
+    if (!WriteFile(file_.get(), data, static_cast<DWORD>(size), &written, nullptr) || written != size)
       return fail(err, "WriteFile", path_);
     return true;
   }
 
-  bool close(std::string* err) override {
-    HANDLE handle = handle_;
-    handle_ = INVALID_HANDLE_VALUE;
-    return CloseHandle(handle) || fail(err, "CloseHandle", path_);
-  }
+  bool close(std::string* err) override { return file_.close() || fail(err, "CloseHandle", path_); }
 
  private:
-  HANDLE handle_;
+  FileHandle file_;
   std::string path_;
 };
 
