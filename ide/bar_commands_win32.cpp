@@ -5,6 +5,7 @@
 #include "ide/general_behaviours_win32.h"
 #include "ide/project_client_win32.h"
 #include "ide/hook_set_win32.h"
+#include "ide/open_file_win32.h"
 #include "topbar/top_bar_win32.h"
 
 #include "navigation/navigation_commands_win32.h"
@@ -24,6 +25,9 @@ bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
   if (addon().topBar && command != BarCommand::PaintButtons) addon().topBar->collapse();
   if (addon().topBar && addon().topBar->runCommand(command, index)) return true;
   switch (command) {
+    case BarCommand::EditorOpened:
+      editorOpened(reinterpret_cast<HWND>(lParam));
+      return true;
     case BarCommand::PaintButtons:
       return paintButtonsCommand(bar, id, lParam);
     case BarCommand::TitleBarPopup:

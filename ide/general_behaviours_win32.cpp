@@ -47,7 +47,29 @@ void reopenAt(WPARAM showCommand, const char* windowClass, const RECT& where) {
                SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+// The frame of an IDE already running. The IDE that loads the add-on has not
+// created its frame yet; a frame of this very process (a host that loads its
+// add-ons after making its frame) is not another IDE.
+HWND runningIdeFrame() {
+  HWND frame = nullptr;
+  while ((frame = FindWindowExA(nullptr, frame, "CPPFRAME", nullptr))) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(frame, &process);
+    if (process != GetCurrentProcessId()) return frame;
+  }
+  return nullptr;
+}
+
 }  // namespace
+
+GeneralBehaviours::GeneralBehaviours() : options(GeneralOptions::read()) {
+  if (!options.unic) return;
+  HWND running = runningIdeFrame();
+  if (!running) return;
+  if (IsIconic(running)) ShowWindow(running, SW_SHOW);
+  SetActiveWindow(running);
+  ExitProcess(0);
+}
 
 void GeneralBehaviours::makeStarted() {
   if (options.clearOnMake) {

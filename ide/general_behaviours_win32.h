@@ -12,8 +12,9 @@ constexpr UINT_PTR kBarTimer = 1;
 
 class GeneralBehaviours {
  public:
-  // Reads the "General" options; writes them back when destroyed.
-  GeneralBehaviours() : options(GeneralOptions::read()) {}
+  // Reads the "General" options; writes them back when destroyed. With "Unic"
+  // on and another IDE running, shows that IDE and ends this process.
+  GeneralBehaviours();
   ~GeneralBehaviours() { options.write(); }
   GeneralBehaviours(const GeneralBehaviours&) = delete;
   GeneralBehaviours& operator=(const GeneralBehaviours&) = delete;

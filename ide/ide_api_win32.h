@@ -145,6 +145,8 @@ struct IIdeProject : IUnknown {
   virtual void __stdcall RemoveClient(IProjectClient* client) = 0;
   // A new node under parent; a null type asks for the default one. 0 when refused.
   virtual IdeHandle __stdcall AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) = 0;
+  // Takes the node and everything under it out of the project. FALSE when refused.
+  virtual BOOL __stdcall RemoveNode(IdeHandle node) = 0;
 };
 
 struct IIdeProjectSave : IUnknown {

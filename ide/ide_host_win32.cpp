@@ -103,6 +103,12 @@ class IdeHost : public Host {
     return nullptr;
   }
 
+  bool removeProjectNode(const ProjectNode& node) {
+    IdeRef<IIdeProject> project(getService<IIdeProject>(ide_iid::kProject));
+    auto found = handles_.find(&node);
+    return project && found != handles_.end() && project->RemoveNode(found->second);
+  }
+
   int runTool(const std::string& tool, const std::string& file) override {
     IdeRef<IIdeTools> tools(getService<IIdeTools>(ide_iid::kTools));
     IdeText name(tool);
@@ -160,7 +166,15 @@ class IdeHost : public Host {
 
 }  // namespace
 
-Host& ideHost() {
+namespace {
+
+IdeHost& theIdeHost() {
   static IdeHost host;
   return host;
 }
+
+}  // namespace
+
+Host& ideHost() { return theIdeHost(); }
+
+bool removeIdeProjectNode(const ProjectNode& node) { return theIdeHost().removeProjectNode(node); }

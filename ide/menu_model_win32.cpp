@@ -44,6 +44,11 @@ OwnedMenu buildMenuBar(const MenuModel& model) {
   return menu;
 }
 
+bool replaceMenuItems(HMENU menu, const MenuModel& model) {
+  for (int count = GetMenuItemCount(menu); count > 0; --count) DeleteMenu(menu, 0, MF_BYPOSITION);
+  return appendItems(menu, model.items);
+}
+
 bool trackPopupMenu(const MenuModel& model, int x, int y, HWND owner) {
   OwnedMenu menu = buildPopupMenu(model);
   if (!menu.get()) return false;

@@ -39,6 +39,10 @@ OwnedMenu buildPopupMenu(const MenuModel& model);
 // A menu bar holding the model's items (its popups become the bar's menus).
 OwnedMenu buildMenuBar(const MenuModel& model);
 
+// Empties an existing menu and fills it with the model's items. False when the
+// system refused an item (the items before it stay).
+bool replaceMenuItems(HMENU menu, const MenuModel& model);
+
 // Shows the model as a popup at the screen point (x, y) and waits until it is
 // closed; the chosen item's command arrives at owner as WM_COMMAND. False when
 // the menu could not be built.

@@ -15,6 +15,7 @@ namespace {
 
 struct EditorSearch {
   std::string upperPath;
+  HWND except;
   HWND found;
 };
 
@@ -23,16 +24,20 @@ BOOL CALLBACK visitEditor(HWND window, LPARAM lParam) {
   auto* search = reinterpret_cast<EditorSearch*>(lParam);
   char title[280] = {};
   GetWindowTextA(window, title, sizeof title);
-  if (!hasClass(window, "BCW5Editor") || asciiUpper(editorFileName(title, sizeof title)) != search->upperPath)
+  if (window == search->except || !hasClass(window, "BCW5Editor") ||
+      asciiUpper(editorFileName(title, sizeof title)) != search->upperPath)
     return TRUE;
   search->found = window;
   return FALSE;
 }
 
-bool bringEditorForward(const std::string& path) {
+// Unless "EditOtherView" is on or Shift is held: the editor of path, other
+// than except, restored and raised.
+bool bringEditorForward(const std::string& path, HWND except = nullptr) {
+  const bool otherView = addon().topBar && addon().topBar->settings.editOtherView != 0;
   HWND documents = ideDocuments();
-  if (!documents) return false;
-  EditorSearch search{asciiUpper(path), nullptr};
+  if (otherView || (GetKeyState(VK_SHIFT) & 0x8000) || !documents) return false;
+  EditorSearch search{asciiUpper(path), except, nullptr};
   EnumChildWindows(documents, visitEditor, reinterpret_cast<LPARAM>(&search));
   if (!search.found) return false;
   ShowWindow(search.found, SW_SHOWNORMAL);
@@ -41,11 +46,17 @@ bool bringEditorForward(const std::string& path) {
   return true;
 }
 
+// A header enters or moves to the front of the recent headers, and the bar's
+// header submenu shows the list anew.
+void recordHeader(const std::string& path) {
+  if (addon().recentFiles && addon().recentFiles->rememberHeader(withoutLineSuffix(path)) && addon().topBar)
+    addon().topBar->refreshHeaderMenu();
+}
+
 }  // namespace
 
 bool openFileInIde(const std::string& path) {
-  const bool otherView = addon().topBar && addon().topBar->settings.editOtherView != 0;
-  if (!otherView && !(GetKeyState(VK_SHIFT) & 0x8000) && bringEditorForward(path)) return true;
+  if (bringEditorForward(path)) return true;
   const int result = ideHost().runTool("EditText", path);
   if (result == 0) return true;
   ideHost().showStatus(toolResultText(result));
@@ -54,8 +65,19 @@ bool openFileInIde(const std::string& path) {
 
 bool openAndRecord(const std::string& path) {
   if (!openFileInIde(path)) return false;
-  if (addon().recentFiles) addon().recentFiles->rememberHeader(withoutLineSuffix(path));
+  recordHeader(path);
   return true;
+}
+
+void editorOpened(HWND editor) {
+  char title[280] = {};
+  if (!IsWindow(editor) || !GetWindowTextA(editor, title, sizeof title)) return;
+  const std::string path = withoutLineSuffix(title);
+  if (bringEditorForward(path, editor)) {
+    SendMessageA(editor, WM_CLOSE, 0, 0);
+    return;
+  }
+  recordHeader(path);
 }
 
 void activateIdeFrame() {

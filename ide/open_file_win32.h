@@ -1,6 +1,8 @@
 // The add-on's one way of opening a file in the IDE.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 
 // Brings an editor already showing path to the front (unless "EditOtherView"
@@ -11,6 +13,12 @@ bool openFileInIde(const std::string& path);
 // Opens path as openFileInIde does and, when it opened, records it in the
 // recent headers (which keep headers only).
 bool openAndRecord(const std::string& path);
+
+// An editor window has just been created: its file is recorded in the recent
+// headers, unless another editor shows that file already (and "EditOtherView"
+// is off and Shift is not held), which is then brought forward while the new
+// view is closed.
+void editorOpened(HWND editor);
 
 // Activates the IDE's frame, as every command does before it opens something.
 void activateIdeFrame();

@@ -44,6 +44,16 @@ const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& nam
   return nullptr;
 }
 
+const ProjectNode* sameNodeIn(const ProjectNode& from, const ProjectNode& node, const ProjectNode& to) {
+  if (&from == &node) return node.name == to.name && node.type == to.type ? &to : nullptr;
+  for (size_t i = 0; i < from.nodes.size(); ++i) {
+    const ProjectNode& child = from.nodes[i];
+    if (&child != &node && !parentOf(child, node)) continue;
+    return i < to.nodes.size() ? sameNodeIn(child, node, to.nodes[i]) : nullptr;
+  }
+  return nullptr;
+}
+
 const ProjectNode* parentOf(const ProjectNode& root, const ProjectNode& node) {
   for (const ProjectNode& child : root.nodes) {
     if (&child == &node) return &root;

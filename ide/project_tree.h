@@ -36,6 +36,11 @@ const ProjectNode* findNodeNamed(const ProjectNode& root, const std::string& nam
 // root itself and for a node outside the tree.
 const ProjectNode* parentOf(const ProjectNode& root, const ProjectNode& node);
 
+// The node of tree `to` at the place that node has in tree `from` (the same
+// positions among siblings from the top down), when it still has node's name
+// and type; null otherwise, as for a node that another tree has lost.
+const ProjectNode* sameNodeIn(const ProjectNode& from, const ProjectNode& node, const ProjectNode& to);
+
 // The option of a node of root's tree: its own value, else its nearest
 // ancestor's, as the IDE's nodes inherit options; false when none has one.
 bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind kind, std::string* value);

@@ -139,3 +139,10 @@ BarMenu buildBarMenu(const BarMenuInputs& inputs) {
   result.bar.items[0] = std::move(main);
   return result;
 }
+
+MenuModel refreshedHeaderMenu(const std::vector<std::string>& headers) {
+  MenuModel menu;
+  for (size_t i = 0; i < headers.size(); ++i)
+    menu.items.push_back(MenuItem::command(kFirstRecentHeaderId + static_cast<uint32_t>(i), headers[i]));
+  return menu;
+}

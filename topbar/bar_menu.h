@@ -37,5 +37,9 @@ struct BarMenu {
 // Builds the whole menu bar. The nodes of the result point into inputs.project.
 BarMenu buildBarMenu(const BarMenuInputs& inputs);
 
+// The header submenu as it is refreshed when a header is used: every recent
+// header under its whole path (a rebuild shows file names only).
+MenuModel refreshedHeaderMenu(const std::vector<std::string>& headers);
+
 // The file-name part of a path, after its last '/' or '\'.
 std::string menuFileName(const std::string& path);

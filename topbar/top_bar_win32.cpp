@@ -1,6 +1,7 @@
 // The top bar: menus, placement and its own commands.
 #include "topbar/top_bar_win32.h"
 
+#include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_host_win32.h"
@@ -67,8 +68,11 @@ void TopBar::expand() {
       GetClientRect(bar_, &client);
       return static_cast<int32_t>(client.bottom - client.top);
     });
+    // The measure left the window at the last height it tried.
+    setHeight(expandedHeight_);
+  } else if (expandedHeight_ != normalHeight) {
+    setHeight(expandedHeight_);
   }
-  if (expandedHeight_ != normalHeight) setHeight(expandedHeight_);
   expanded_ = true;
 }
 
@@ -103,6 +107,40 @@ void TopBar::rebuildMenu() {
   DrawMenuBar(bar_);
 }
 
+void TopBar::refreshHeaderMenu() {
+  HMENU menuBar = GetMenu(bar_);
+  if (!menuBar) return ideHost().showStatus("Pas de bar");
+  HMENU first = GetSubMenu(menuBar, 0);
+  if (!first) return ideHost().showStatus("Pas de mnu");
+  const int count = GetMenuItemCount(first);
+  if (count <= 0) return ideHost().showStatus("mnu.taille=0");
+  HMENU headers = nullptr;
+  for (int item = 0; item < count && !headers; ++item) headers = GetSubMenu(first, item);
+  if (!headers) return ideHost().showStatus("Pas de hh");
+  replaceMenuItems(headers, refreshedHeaderMenu(recent().headers));
+  DrawMenuBar(bar_);
+}
+
+std::string TopBar::projectFileName(uint32_t n) const {
+  return n < menu_.projectFiles.size() ? menuFileName(menu_.projectFiles[n]->name)
+                                       : std::string("a file in the project ...");
+}
+
+void TopBar::runProjectFile(uint32_t index) {
+  if (index >= menu_.projectFiles.size()) return ideHost().showStatus("Internal error: not enough files");
+  const bool alt = GetKeyState(VK_MENU) & 0x8000;
+  const bool remove = (GetKeyState(VK_CONTROL) & 0x8000) && !alt;
+  // Asked first: the question's message loop may read the project again.
+  if (remove && alert("Okay to remove\n" + projectFileName(index) + " ?", "Confirmation", kAlertYesNo) != kAnswerYes)
+    return;
+  // The menu holds a copy of the tree: the IDE's own node is found at the same place.
+  const ProjectNode* root = ideHost().projectRoot();
+  const ProjectNode* node = root ? sameNodeIn(project_, *menu_.projectFiles[index], *root) : nullptr;
+  if (!node) return ideHost().showStatus("Internal error: bad file");
+  if (!remove) return runNodeTool(*node);
+  if (removeIdeProjectNode(*node)) rebuildMenu();
+}
+
 void TopBar::showItemStatus(UINT id) {
   BarItemNames names;
   names.recentProject = [this](uint32_t n) { return n < recent().projects.size() ? recent().projects[n] : std::string(); };
@@ -110,10 +148,7 @@ void TopBar::showItemStatus(UINT id) {
   names.tool = [this](uint32_t n) {
     return n < menu_.tools.size() ? menuFileName(menu_.tools[n]->name) : std::string("nothing !");
   };
-  names.projectFile = [this](uint32_t n) {
-    return n < menu_.projectFiles.size() ? menuFileName(menu_.projectFiles[n]->name)
-                                         : std::string("a file in the project ...");
-  };
+  names.projectFile = [this](uint32_t n) { return projectFileName(n); };
   ideHost().showStatus(barStatusText(id, names));
 }
 
@@ -142,14 +177,11 @@ bool TopBar::runCommand(BarCommand command, uint32_t index) {
       return true;
     case BarCommand::RecentHeader:
       activateIdeFrame();
-      if (index < recent().headers.size() && openAndRecord(std::string(recent().headers[index]))) rebuildMenu();
+      // A copy: recording the header moves the entries.
+      if (index < recent().headers.size()) openAndRecord(std::string(recent().headers[index]));
       return true;
     case BarCommand::ProjectFile:
-      if (index >= menu_.projectFiles.size()) {
-        ideHost().showStatus("Internal error: not enough files");
-        return true;
-      }
-      runNodeTool(*menu_.projectFiles[index]);
+      runProjectFile(index);
       activateIdeFrame();
       return true;
     case BarCommand::Options:

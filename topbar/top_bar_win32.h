@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <string>
 
 #include "topbar/bar_commands.h"
 #include "topbar/bar_geometry.h"
@@ -34,6 +35,9 @@ class TopBar {
   // Builds the menus anew from the recent lists and the open project.
   void rebuildMenu();
   const BarMenu& menu() const { return menu_; }
+  // Refills the header submenu (the first submenu of the first menu) from the
+  // recent headers; a missing piece is named on the status line.
+  void refreshHeaderMenu();
 
   // The status text of a highlighted item.
   void showItemStatus(UINT id);
@@ -45,6 +49,10 @@ class TopBar {
   ScreenMetrics screen() const;
   void setHeight(int32_t height);
   const RecentFiles& recent() const;
+  // Project file n as the status line and the questions name it.
+  std::string projectFileName(uint32_t n) const;
+  // Opens project file n, or with Ctrl alone removes it from the project.
+  void runProjectFile(uint32_t index);
 
   HWND bar_;
   BarMenu menu_;

@@ -50,6 +50,22 @@ std::vector<std::string> MessageBoxWatchdog::boxes() {
   return boxes_;
 }
 
+namespace {
+
+// The box's default push button, else its first button.
+int defaultButton(HWND box) {
+  int first = 0;
+  for (int id : {IDOK, IDYES, IDNO, IDCANCEL, IDABORT, IDRETRY, IDIGNORE}) {
+    HWND button = GetDlgItem(box, id);
+    if (!button) continue;
+    if ((GetWindowLongA(button, GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON) return id;
+    if (!first) first = id;
+  }
+  return first ? first : IDOK;
+}
+
+}  // namespace
+
 BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
@@ -70,6 +86,6 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   if (watchdog->onBox_) watchdog->onBox_(box);
   // Hidden at once, so that the next round does not count it again before it closes.
   ShowWindow(window, SW_HIDE);
-  PostMessageA(window, WM_COMMAND, IDOK, 0);
+  PostMessageA(window, WM_COMMAND, defaultButton(window), 0);
   return TRUE;
 }

@@ -9,6 +9,8 @@
 #include <string>
 
 #include "addon_loader.h"
+#include "foundation/settings.h"
+#include "ui_driver.h"
 
 namespace {
 
@@ -50,7 +52,9 @@ Report run(const std::string& program, const std::string& arguments, DWORD* exit
     ADD_FAILURE() << "cannot start " << commandLine;
     return lines;
   }
-  EXPECT_EQ(WaitForSingleObject(process.hProcess, 60000), WAIT_OBJECT_0) << commandLine << " hangs";
+  // Messages are pumped while waiting: the program may show this process's windows.
+  EXPECT_TRUE(pumpUntil([&] { return WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0; }, 60000))
+      << commandLine << " hangs";
   GetExitCodeProcess(process.hProcess, exitCode);
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
@@ -93,6 +97,7 @@ TEST(AddonProcessTest, BarIsAThinTopmostPopupOverTheScreenTop) {
   for (const char* version : {"nt40", "nt351"}) {
     const bool newShell = std::string(version) == "nt40";
     SCOPED_TRACE(version);
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);  // the margins of the other look
     DWORD exitCode = 1;
     Report report = run(testIdeNamed(std::string("bar_") + version + ".exe", version), "bar \"" + kAddon + "\"",
                         &exitCode);
@@ -121,6 +126,19 @@ TEST(AddonProcessTest, BarIsAThinTopmostPopupOverTheScreenTop) {
 
     EXPECT_EQ(number(report, "menuItems"), 1);
     EXPECT_EQ(report["menuItem99"], "Kesto Addon for Borland C++ 5.0 initializing...");
+
+    // Once placed: the default margins, and one row whether a menu is open or not.
+    const long long screenWidth = number(report, "screenWidth");
+    EXPECT_EQ(number(report, "normal.x"), newShell ? -1 : 17);
+    EXPECT_EQ(number(report, "normal.width"), newShell ? screenWidth + 1 - 58 : screenWidth - 17 - 37);
+    EXPECT_EQ(number(report, "normal.y"), number(report, "y"));
+    EXPECT_EQ(number(report, "normal.height"), number(report, "height"));
+    // Expanded, the whole menu bar shows and no client area does: in the older
+    // look the caption leaves the normal bar a few pixels short of its menu.
+    EXPECT_EQ(number(report, "expanded.client"), 0);
+    if (newShell) EXPECT_EQ(number(report, "expanded.height"), number(report, "height")) << "one row";
+    else EXPECT_GT(number(report, "expanded.height"), number(report, "height"));
+    EXPECT_EQ(number(report, "screenshot"), 1);
 
     EXPECT_EQ(number(report, "stopped"), 1);
     EXPECT_EQ(number(report, "barAfterStop"), 0);
@@ -175,4 +193,27 @@ TEST(AddonProcessTest, ModuleNameWithoutExtensionEndsTheIdeAfterTheFatalBox) {
   EXPECT_EQ(report["box"], "Fatal: You can't use Kesto AddOn for Borland C++ 5.0\\nwithout its helpfile !");
   EXPECT_EQ(report.count("started"), 0u) << "the IDE never came back from the entry";
   EXPECT_EQ(exitCode, 0u);
+}
+
+TEST(AddonProcessTest, ASecondIdeShowsTheRunningOneAndEnds) {
+  // The running IDE: this process's frame, iconic and hidden.
+  TestIde running;
+  ShowWindow(running.windows.frame, SW_MINIMIZE);
+  ShowWindow(running.windows.frame, SW_HIDE);
+  DWORD exitCode = 1;
+  Report report = run(testIdeNamed("second.exe", ""), "load \"" + kAddon + "\"", &exitCode);
+  EXPECT_EQ(exitCode, 0u);
+  EXPECT_EQ(number(report, "loaded"), 1);
+  EXPECT_EQ(report.count("started"), 0u) << "the second IDE ends inside the add-on's start";
+  EXPECT_TRUE(IsWindowVisible(running.windows.frame)) << "the running IDE is shown";
+
+  // Without "Unic" both run.
+  HKEY general = nullptr;
+  const std::string key = std::string(SettingsStore::kAddOnRoot) + "\\General";
+  ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, key.c_str(), &general), ERROR_SUCCESS);
+  RegSetValueExA(general, "Unic", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
+  report = run(testIdeNamed("second.exe", ""), "load \"" + kAddon + "\"", &exitCode);
+  RegDeleteValueA(general, "Unic");
+  RegCloseKey(general);
+  EXPECT_EQ(number(report, "started"), 1);
 }

@@ -207,7 +207,7 @@ IIdeString* __stdcall TestProject::ProjectFile() {
 
 IdeHandle TestProject::following(IdeHandle parent, IdeHandle after) {
   for (size_t i = after; i < nodes.size(); ++i)
-    if (nodes[i].parent == parent) return i + 1;
+    if (nodes[i].parent == parent && !nodes[i].removed) return i + 1;
   return 0;
 }
 
@@ -232,6 +232,13 @@ void __stdcall TestProject::RemoveClient(IProjectClient* client) { removeClient(
 IdeHandle __stdcall TestProject::AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) {
   if (!parent || parent > nodes.size() || !name) return 0;
   return addNode(parent, textOf(name), type ? textOf(type) : "");
+}
+
+BOOL __stdcall TestProject::RemoveNode(IdeHandle node) {
+  // The top node is the project itself: the IDE never removes it.
+  if (node < 2 || node > nodes.size() || nodes[node - 1].removed) return FALSE;
+  nodes[node - 1].removed = true;
+  return TRUE;
 }
 
 IdeHandle TestProject::addNode(IdeHandle parent, const std::string& name, const std::string& type,

@@ -125,6 +125,7 @@ class TestProject : public Counted<IIdeProject> {
     std::string type;
     std::string description;
     IdeHandle parent;
+    bool removed = false;  // handles are positions: a removed node keeps its place
   };
   TestProject() : Counted(ide_iid::kProject) {}
   IIdeString* __stdcall ProjectFile() override;
@@ -137,6 +138,7 @@ class TestProject : public Counted<IIdeProject> {
   void __stdcall AddClient(IProjectClient* client) override { clients.push_back(client); }
   void __stdcall RemoveClient(IProjectClient* client) override;
   IdeHandle __stdcall AddNode(IdeHandle parent, IIdeString* name, IIdeString* type) override;
+  BOOL __stdcall RemoveNode(IdeHandle node) override;
 
   // Node handles are 1-based positions; the first node added is the top one (parent 0).
   IdeHandle addNode(IdeHandle parent, const std::string& name, const std::string& type,

@@ -32,6 +32,24 @@ void report(const std::string& name, const std::string& value) {
 
 void report(const std::string& name, long long value) { report(name, std::to_string(value)); }
 
+// The program's file name without its folder and extension.
+std::string programName(const std::string& program) {
+  const std::string name = program.substr(program.find_last_of("\\/") + 1);
+  return name.substr(0, name.find('.'));
+}
+
+void reportPlace(const std::string& prefix, HWND window) {
+  RECT place = {};
+  GetWindowRect(window, &place);
+  report(prefix + "x", place.left);
+  report(prefix + "y", place.top);
+  report(prefix + "width", place.right - place.left);
+  report(prefix + "height", place.bottom - place.top);
+  RECT client = {};
+  GetClientRect(window, &client);
+  report(prefix + "client", client.bottom);
+}
+
 void reportBar(HMODULE module) {
   WNDCLASSA barClass = {};
   report("class", GetClassInfoA(module, "KADO", &barClass) ? 1 : 0);
@@ -51,12 +69,7 @@ void reportBar(HMODULE module) {
   report("style", static_cast<long long>(GetWindowLongA(bar, GWL_STYLE) & 0xFFFFFFFFll));
   report("exStyle", static_cast<long long>(GetWindowLongA(bar, GWL_EXSTYLE) & 0xFFFFFFFFll));
   report("visible", IsWindowVisible(bar) ? 1 : 0);
-  RECT place = {};
-  GetWindowRect(bar, &place);
-  report("x", place.left);
-  report("y", place.top);
-  report("width", place.right - place.left);
-  report("height", place.bottom - place.top);
+  reportPlace("", bar);
   report("screenWidth", GetSystemMetrics(SM_CXSCREEN));
   report("menuHeight", GetSystemMetrics(SM_CYMENU));
   report("captionHeight", GetSystemMetrics(SM_CYCAPTION));
@@ -65,6 +78,18 @@ void reportBar(HMODULE module) {
   if (menu) GetMenuStringA(menu, 99, item, sizeof item, MF_BYCOMMAND);
   report("menuItems", menu ? GetMenuItemCount(menu) : -1);
   report("menuItem99", item);
+}
+
+// The bar once its menus are built: while a menu opens, then put back at its
+// normal place, with a screenshot named after the program.
+void reportBarPlacement(const char* program) {
+  pumpMessages(300);
+  HWND bar = FindWindowA("KADO", nullptr);
+  SendMessageA(bar, WM_INITMENU, reinterpret_cast<WPARAM>(GetMenu(bar)), 0);
+  reportPlace("expanded.", bar);
+  SendMessageA(bar, WM_ACTIVATE, WA_INACTIVE, 0);
+  reportPlace("normal.", bar);
+  report("screenshot", saveScreenshot("top-bar-" + programName(program)) ? 1 : 0);
 }
 
 // How many pixels of each button's bitmap the editor's title bar shows where
@@ -92,9 +117,7 @@ void reportButtons(HMODULE module, TestIde* ide, const char* program) {
         same += GetPixel(memory.get(), x, y) == GetPixel(window.get(), origin.x + button * 24 + x, origin.y + y);
     report("button" + std::to_string(button), same);
   }
-  std::string name = program;
-  name = name.substr(name.find_last_of("\\/") + 1);
-  report("screenshot", saveScreenshot("editor-" + name.substr(0, name.find('.'))) ? 1 : 0);
+  report("screenshot", saveScreenshot("editor-" + programName(program)) ? 1 : 0);
 }
 
 int run(const std::string& mode, const char* dll, const char* program) {
@@ -112,7 +135,10 @@ int run(const std::string& mode, const char* dll, const char* program) {
   report("entry", addon.hasEntry() ? 1 : 0);
   if (!addon.start(&ide)) return 1;
   report("started", 1);
-  if (mode == "bar") reportBar(addon.module());
+  if (mode == "bar") {
+    reportBar(addon.module());
+    reportBarPlacement(program);
+  }
   if (mode == "buttons") reportButtons(addon.module(), &ide, program);
   addon.stop();
   report("stopped", 1);

@@ -1,5 +1,6 @@
 // The top bar in the IDE: its menus in both constructions, expansion while a
-// menu is open, the status texts, and the recent projects across two loads.
+// menu is open, the status texts, the recent projects across two loads, the
+// recent headers and the project-file commands.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -25,6 +26,8 @@ int barHeight() {
   GetWindowRect(FindWindowA("KADO", nullptr), &rect);
   return rect.bottom - rect.top;
 }
+
+constexpr WPARAM kRebuildCommand = 103;
 
 std::string barMenu() { return describeWin32Menu(GetMenu(FindWindowA("KADO", nullptr))); }
 
@@ -90,6 +93,72 @@ TEST_F(TopBarTest, MenusFollowTheProjectInBothConstructions) {
   ide_.project.clients[0]->ProjectClosed();
   addon.stop();
   EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(TopBarTest, EditorsOfHeadersEnterTheHeaderMenuAndASecondViewOfAFileCloses) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  pumpMessages(200);
+  HWND bar = FindWindowA("KADO", nullptr);
+  HWND first = ide_.windows.openEditor("C:\\INC\\ONE.H");
+  ide_.windows.openEditor("C:\\SRC\\MAIN.CPP");
+  ide_.windows.openEditor("c:\\inc\\two.h");
+  pumpMessages(200);
+  EXPECT_EQ(barMenu().rfind("Kesto\n  Last Includes\n    400 c:\\inc\\two.h\n    401 C:\\INC\\ONE.H\n  -\n", 0), 0u)
+      << "headers only, newest first, under their whole paths: " << barMenu();
+
+  HWND second = ide_.windows.openEditor("c:\\inc\\one.h:2");
+  pumpMessages(200);
+  EXPECT_FALSE(IsWindow(second)) << "another editor shows the file";
+  EXPECT_TRUE(IsWindow(first));
+  EXPECT_NE(barMenu().find("400 c:\\inc\\two.h\n"), std::string::npos) << "the closed view records nothing";
+
+  // The refresh names what it misses on the status line.
+  HMENU menu = GetMenu(bar);
+  SetMenu(bar, nullptr);
+  ide_.windows.openEditor("C:\\INC\\THREE.H");
+  pumpMessages(200);
+  ASSERT_FALSE(ide_.statusLine.texts.empty());
+  EXPECT_EQ(ide_.statusLine.texts.back(), "Pas de bar");
+  SetMenu(bar, menu);
+  SendMessageA(bar, WM_COMMAND, kRebuildCommand, 0);
+  EXPECT_EQ(barMenu().rfind("Kesto\n  Last Includes\n    400 THREE.H\n    401 two.h\n    402 ONE.H\n", 0), 0u)
+      << "a rebuild shows file names: " << barMenu();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(TopBarTest, ControlOnAProjectFileAsksAndRemovesItFromTheProject) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  HWND bar = FindWindowA("KADO", nullptr);
+  BYTE keys[256];
+  GetKeyboardState(keys);
+  keys[VK_CONTROL] = 0x80;
+  SetKeyboardState(keys);
+  SendMessageA(bar, WM_COMMAND, 10001, 0);
+  keys[VK_CONTROL] = 0;
+  SetKeyboardState(keys);
+  ASSERT_EQ(watchdog.boxes().size(), 1u);
+  EXPECT_EQ(watchdog.boxes()[0], "Confirmation: Okay to remove\nfile1.cpp ?");
+  EXPECT_TRUE(ide_.project.nodes[3].removed) << "answered Yes";
+  EXPECT_NE(barMenu().find("\n  10001 file2.cpp\n"), std::string::npos) << barMenu();
+
+  SendMessageA(bar, WM_COMMAND, 10001, 0);
+  ASSERT_FALSE(ide_.tools.runs.empty());
+  EXPECT_EQ(ide_.tools.runs.back().file.substr(ide_.tools.runs.back().file.size() - 10), "\\file2.cpp")
+      << "without a key the file opens";
+  const size_t runs = ide_.tools.runs.size();
+  ide_.project.nodes[4].removed = true;  // gone from the IDE, not yet from the menu
+  SendMessageA(bar, WM_COMMAND, 10001, 0);
+  ASSERT_FALSE(ide_.statusLine.texts.empty());
+  EXPECT_EQ(ide_.statusLine.texts.back(), "Internal error: bad file");
+  EXPECT_EQ(ide_.tools.runs.size(), runs);
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
 }
 
 TEST_F(TopBarTest, ExpandsToEveryRowWhileAMenuIsOpenAndRemembersProjectsAcrossLoads) {

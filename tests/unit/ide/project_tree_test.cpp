@@ -38,3 +38,17 @@ TEST(ProjectTreeTest, NodesInheritTheNearestAncestorsOptionsOnly) {
   EXPECT_EQ(value, "untouched");
   EXPECT_EQ(findNodeHoldingFile(root, "missing.cpp"), nullptr);
 }
+
+TEST(ProjectTreeTest, ANodeIsFoundAgainInANewerCopyOnlyWhereItStillIs) {
+  const ProjectNode menu = node("demo.kpj", {node("app.exe", {node("a.cpp"), node("b.cpp")}), node("tool.exe")});
+  ProjectNode ide = menu;
+  EXPECT_EQ(sameNodeIn(menu, menu.nodes[0].nodes[1], ide), &ide.nodes[0].nodes[1]);
+  EXPECT_EQ(sameNodeIn(menu, menu, ide), &ide);
+  ide.nodes[0].nodes.erase(ide.nodes[0].nodes.begin());
+  EXPECT_EQ(sameNodeIn(menu, menu.nodes[0].nodes[1], ide), nullptr) << "b.cpp moved up a place";
+  EXPECT_EQ(sameNodeIn(menu, menu.nodes[0].nodes[0], ide), nullptr) << "another node took a.cpp's place";
+  ide.nodes.pop_back();
+  EXPECT_EQ(sameNodeIn(menu, menu.nodes[1], ide), nullptr) << "tool.exe is gone";
+  const ProjectNode stranger = node("a.cpp");
+  EXPECT_EQ(sameNodeIn(menu, stranger, ide), nullptr);
+}
