@@ -60,9 +60,8 @@ class ConfirmationClicker {
 class DeliveryToolTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    char folder[MAX_PATH];
-    GetCurrentDirectoryA(sizeof folder, folder);
-    dir_ = std::string(folder) + "\\delivery-tool";
+    CreateDirectoryA(windowsPath(KESTO_HOST_WORK_DIR).c_str(), nullptr);
+    dir_ = windowsPath(KESTO_HOST_WORK_DIR) + "\\delivery-tool";
     CreateDirectoryA(dir_.c_str(), nullptr);
     CreateDirectoryA((dir_ + "\\BIN").c_str(), nullptr);
     DeleteFileA((dir_ + "\\BIN\\APP.EXE").c_str());
