@@ -196,10 +196,17 @@ TEST(AddonProcessTest, ModuleNameWithoutExtensionEndsTheIdeAfterTheFatalBox) {
 }
 
 TEST(AddonProcessTest, ASecondIdeShowsTheRunningOneAndEnds) {
+  HKEY general = nullptr;
+  const std::string key = std::string(SettingsStore::kAddOnRoot) + "\\General";
+  ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, key.c_str(), &general), ERROR_SUCCESS);
+  auto setUnic = [general](const char* value) {
+    RegSetValueExA(general, "Unic", 0, REG_SZ, reinterpret_cast<const BYTE*>(value), 2);
+  };
   // The running IDE: this process's frame, iconic and hidden.
   TestIde running;
   ShowWindow(running.windows.frame, SW_MINIMIZE);
   ShowWindow(running.windows.frame, SW_HIDE);
+  setUnic("1");
   DWORD exitCode = 1;
   Report report = run(testIdeNamed("second.exe", ""), "load \"" + kAddon + "\"", &exitCode);
   EXPECT_EQ(exitCode, 0u);
@@ -207,13 +214,9 @@ TEST(AddonProcessTest, ASecondIdeShowsTheRunningOneAndEnds) {
   EXPECT_EQ(report.count("started"), 0u) << "the second IDE ends inside the add-on's start";
   EXPECT_TRUE(IsWindowVisible(running.windows.frame)) << "the running IDE is shown";
 
-  // Without "Unic" both run.
-  HKEY general = nullptr;
-  const std::string key = std::string(SettingsStore::kAddOnRoot) + "\\General";
-  ASSERT_EQ(RegCreateKeyA(HKEY_LOCAL_MACHINE, key.c_str(), &general), ERROR_SUCCESS);
-  RegSetValueExA(general, "Unic", 0, REG_SZ, reinterpret_cast<const BYTE*>("0"), 2);
+  setUnic("0");
   report = run(testIdeNamed("second.exe", ""), "load \"" + kAddon + "\"", &exitCode);
+  EXPECT_EQ(number(report, "started"), 1) << "without \"Unic\" both run";
   RegDeleteValueA(general, "Unic");
   RegCloseKey(general);
-  EXPECT_EQ(number(report, "started"), 1);
 }
