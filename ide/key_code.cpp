@@ -4,3 +4,10 @@
 uint32_t keyCode(uint32_t virtualKey, bool ctrl, bool alt, bool shift) {
   return virtualKey % 1000 + (ctrl ? 4000 : 0) + (alt ? 2000 : 0) + (shift ? 1000 : 0);
 }
+
+std::string keyText(bool ctrl, bool alt, bool shift, const std::string& keyName) {
+  std::string text = ctrl ? "Ctrl" : "";
+  if (alt) text += "+Alt";
+  if (shift) text += text.empty() ? "Shift" : "+Shift";
+  return text.empty() ? keyName : text + "+" + keyName;
+}

@@ -10,6 +10,7 @@
 #include "topbar/bar_geometry.h"
 #include "topbar/bar_menu.h"
 #include "topbar/recent_files.h"
+#include "topbar/top_bar_page.h"
 #include "topbar/top_bar_settings.h"
 
 class TopBar {
@@ -34,6 +35,10 @@ class TopBar {
   // Builds the menus anew from the recent lists and the open project.
   void rebuildMenu();
   const BarMenu& menu() const { return menu_; }
+
+  // After the options page was stored: the menus built anew, then the bar
+  // placed, shown or hidden and moved in or out of the topmost band as the changes say.
+  void applyStoredPage(const TopBarPageChanges& changes);
 
   // The status text of a highlighted item.
   void showItemStatus(UINT id);
