@@ -8,22 +8,19 @@
 #include "delivery/delivery_group.h"
 #include "ide/option_page.h"
 
-class DeliveryPage : public OptionPage {
+class DeliveryPage : public ProjectOptionPage {
  public:
   static constexpr int32_t kEnabledCheck = 1010;
   static constexpr int32_t kGroupList = 1011;
   static constexpr size_t kMaxDirectoryLength = 259;
 
-  // The groups and the project's options are borrowed; project is null when
-  // no project is open, and then every control is disabled.
+  // The groups and the project's tree are borrowed for the page's life.
   DeliveryPage(Tableau<OneDelRep>& groups, ProjectOptions* project, const ProjectNode* root)
-      : groups_(groups), project_(project), root_(root) {}
+      : ProjectOptionPage(project), groups_(groups), root_(root) {}
 
   std::vector<PageControl> controls() override;
   // Rebuilds the groups from the project's delivery node first.
   void show() override;
-  void changed(int32_t) override { modified = true; }
-  bool enabled(int32_t) const override { return project_ != nullptr; }
   void store() override;
 
   // The selected group's directory and state, for the prompt that edits them.
@@ -42,7 +39,6 @@ class DeliveryPage : public OptionPage {
   void showRows();
 
   Tableau<OneDelRep>& groups_;
-  ProjectOptions* project_;
   const ProjectNode* root_;
   int32_t withDelivery_ = 0;
   std::vector<Row> edited_;

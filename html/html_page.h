@@ -5,21 +5,17 @@
 #include "ide/option_page.h"
 #include "ide/project_options.h"
 
-class HtmlPage : public OptionPage {
+// Without a project the page shows the project defaults.
+class HtmlPage : public ProjectOptionPage {
  public:
   static constexpr size_t kMaxFiltersLength = 1999;
 
-  // The project's options are borrowed; null when no project is open, and then
-  // the page shows the project defaults, disabled, and stores nothing.
-  explicit HtmlPage(ProjectOptions* project) : project_(project) {}
+  explicit HtmlPage(ProjectOptions* project) : ProjectOptionPage(project) {}
 
   std::vector<PageControl> controls() override;
   void show() override;
-  void changed(int32_t) override { modified = true; }
-  bool enabled(int32_t) const override { return project_ != nullptr; }
   void store() override;
 
  private:
-  ProjectOptions* project_;
   ProjectOptions fields_;
 };

@@ -16,11 +16,15 @@ struct Capture {
   std::string text;
 };
 
-// The system's name of the key, from the scan code and extended bit of the stroke.
-std::string keyName(LPARAM flags) {
+// The system's name of the key, from the scan code and extended bit of the
+// stroke, else from the key's own scan code (synthesised strokes may carry
+// none), else a name made from the virtual key.
+std::string keyName(WPARAM virtualKey, LPARAM flags) {
   char name[kKeyTextLimit + 1] = {};
-  GetKeyNameTextA(static_cast<LONG>(flags), name, sizeof name);
-  return name;
+  if (GetKeyNameTextA(static_cast<LONG>(flags), name, sizeof name) > 0) return name;
+  const UINT scanCode = MapVirtualKeyA(static_cast<UINT>(virtualKey), MAPVK_VK_TO_VSC);
+  if (GetKeyNameTextA(static_cast<LONG>(scanCode << 16), name, sizeof name) > 0) return name;
+  return virtualKeyName(static_cast<uint32_t>(virtualKey));
 }
 
 INT_PTR CALLBACK captureProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -35,7 +39,7 @@ INT_PTR CALLBACK captureProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lP
       const bool alt = (lParam & (1 << 29)) != 0;
       const bool shift = GetKeyState(VK_SHIFT) < 0;
       capture->code = keyCode(static_cast<uint32_t>(wParam), ctrl, alt, shift);
-      capture->text = keyText(ctrl, alt, shift, keyName(lParam)).substr(0, kKeyTextLimit);
+      capture->text = keyText(ctrl, alt, shift, keyName(wParam, lParam)).substr(0, kKeyTextLimit);
       capture->hooks->stopKeyCapture();
       EndDialog(dialog, IDOK);
       return TRUE;

@@ -11,3 +11,7 @@ uint32_t keyCode(uint32_t virtualKey, bool ctrl, bool alt, bool shift);
 // modifier or "Shift" alone, then "+" and the system's name of the key when a
 // modifier came before it.
 std::string keyText(bool ctrl, bool alt, bool shift, const std::string& keyName);
+
+// A name for a virtual key when the system gives none: "F1" to "F24", the
+// letter or digit itself, else "Key " and the number.
+std::string virtualKeyName(uint32_t virtualKey);

@@ -75,3 +75,18 @@ class OptionPage {
 
   bool modified = false;
 };
+
+struct ProjectOptions;
+
+// A page that edits the open project's options: every control is disabled and
+// nothing is stored while no project is open.
+class ProjectOptionPage : public OptionPage {
+ public:
+  // The options are borrowed for the page's life; null when no project is open.
+  explicit ProjectOptionPage(ProjectOptions* project) : project_(project) {}
+  void changed(int32_t) override { modified = true; }
+  bool enabled(int32_t) const override { return project_ != nullptr; }
+
+ protected:
+  ProjectOptions* project_;
+};

@@ -46,12 +46,18 @@ class MessageBoxWatchdog {
   MessageBoxWatchdog& operator=(const MessageBoxWatchdog&) = delete;
 
   std::vector<std::string> boxes();
+  // The button every later box is answered with: IDOK unless told otherwise.
+  void answerWith(int button) {
+    std::lock_guard<std::mutex> lock(mutex_);
+    answer_ = button;
+  }
 
  private:
   static BOOL CALLBACK answer(HWND window, LPARAM self);
   BoxListener onBox_;
   std::mutex mutex_;
   std::vector<std::string> boxes_;
+  int answer_ = IDOK;
   bool stopping_ = false;
   std::thread thread_;
 };

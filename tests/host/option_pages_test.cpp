@@ -65,8 +65,11 @@ std::string hintOf(TestOptionsDialog& dialog, int index, int id) {
   return dialog.showHint();
 }
 
+// The page with the hint of its first control, as a user tabbing into it sees it.
 void screenshot(TestOptionsDialog& dialog, int index) {
   dialog.select(index);
+  SetFocus(GetNextDlgTabItem(dialog.pageWindow(index), nullptr, FALSE));
+  dialog.showHint();
   pumpMessages(100);
   char name[40];
   std::snprintf(name, sizeof name, "options-page-%03d", 102 + index);
@@ -151,6 +154,7 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
   putSetting("Completion\\Files", "Entry0", kWork + "\\FIRST.KWD");
   putSetting("Completion\\Files", "Entry1", kWork + "\\SECOND.KWD");
   MessageBoxWatchdog watchdog;
+  watchdog.answerWith(IDYES);
   LoadedAddon addon(kAddon);
   ASSERT_TRUE(addon.start(&ide_));
   ide_.project.clients[0]->ProjectOpened(nullptr);

@@ -6,7 +6,7 @@
 namespace {
 
 constexpr const char* kClass = "TestIdeOptions";
-constexpr int kPageLeft = 190;
+constexpr int kPageLeft = 230;
 constexpr int kPageTop = 40;
 
 void registerClassOnce() {
@@ -39,8 +39,8 @@ TestOptionsDialog::TestOptionsDialog(IMpdChapter* chapter) : chapter_(chapter) {
   registerClassOnce();
   chapter_->AddRef();
   window_ = CreateWindowExA(WS_EX_TOPMOST, kClass, "Environment Options", WS_POPUP | WS_CAPTION | WS_VISIBLE, 20, 60,
-                            660, 420, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
-  list_ = child("LISTBOX", "", WS_BORDER | LBS_NOINTEGRALHEIGHT, 8, 8, 174, 370, window_);
+                            700, 420, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
+  list_ = child("LISTBOX", "", WS_BORDER | LBS_NOINTEGRALHEIGHT, 8, 8, 214, 370, window_);
   description_ = child("STATIC", "", SS_LEFT, kPageLeft, 8, 450, 20, window_);
   hint_ = child("STATIC", "", SS_LEFT | WS_BORDER, kPageLeft, 360, 450, 20, window_);
   for (long i = 0; i < chapter_->PageCount(); ++i) {

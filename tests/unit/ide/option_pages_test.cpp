@@ -46,6 +46,10 @@ TEST(OptionChapterTest, KeyTextJoinsTheModifiersBeforeTheKeyName) {
   EXPECT_EQ(keyText(false, false, true, "A"), "Shift+A");
   EXPECT_EQ(keyText(true, true, true, "Home"), "Ctrl+Alt+Shift+Home");
   EXPECT_EQ(keyText(false, true, false, "X"), "+Alt+X");
+  EXPECT_EQ(virtualKeyName(0x70), "F1");
+  EXPECT_EQ(virtualKeyName(0x87), "F24");
+  EXPECT_EQ(virtualKeyName('Q'), "Q");
+  EXPECT_EQ(virtualKeyName(0xBA), "Key 186");
 }
 
 TEST(TopBarPageTest, OutOfRangeValuesAreToldButTakenAndTheListsAreCut) {
