@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ide/addon_slots_win32.h"
+#include "ide/help_file_win32.h"
 #include "ide/ide_access_win32.h"
 #include "ide/key_capture_win32.h"
 
@@ -66,15 +67,18 @@ HWND __stdcall AddonPageBase::CreatePage(HWND parent) {
 }
 
 IIdeString* __stdcall AddonPageBase::ControlHint(int controlId) {
-  if (!presenter_) presenter_ = behaviour_.make();
-  const std::string hint = presenter_ ? presenter_->hint(controlId) : std::string();
+  // A page not shown has no values to store: a passing presenter tells the hint.
+  std::unique_ptr<OptionPage> passing;
+  OptionPage* page = presenter_.get();
+  if (!page) page = (passing = behaviour_.make()).get();
+  const std::string hint = page ? page->hint(controlId) : std::string();
   return hint.empty() ? nullptr : makeIdeString(hint.c_str());
 }
 
 BOOL __stdcall AddonPageBase::Check() {
   if (!presenter_) return TRUE;
   // An edit's last keystrokes are taken even if a notification was lost.
-  if (IsWindow(dialog_))
+  if (dialog_)
     for (const PageControl& control : presenter_->controls())
       if (control.kind == PageControlKind::Number || control.kind == PageControlKind::Text) pull(control, EN_CHANGE);
   return presenter_->check() ? TRUE : FALSE;
@@ -97,7 +101,11 @@ INT_PTR CALLBACK AddonPageBase::dialogProc(HWND dialog, UINT message, WPARAM wPa
       if (page) page->onCommand(LOWORD(wParam), HIWORD(wParam));
       return TRUE;
     case WM_DESTROY:
-      if (page && page->dialog_ == dialog) page->dialog_ = nullptr;
+      // The values of a closed dialog are never stored by a later one.
+      if (page && page->dialog_ == dialog) {
+        page->dialog_ = nullptr;
+        page->presenter_.reset();
+      }
       break;
   }
   return FALSE;
@@ -116,6 +124,10 @@ void AddonPageBase::onInit(HWND dialog) {
 
 void AddonPageBase::onCommand(int32_t id, UINT notification) {
   if (refreshing_ || !presenter_) return;
+  if (id == IDHELP && notification == BN_CLICKED) {
+    if (entry_.helpTopic && addon().helpFile) addon().helpFile->showTopic(static_cast<uint32_t>(entry_.helpTopic));
+    return;
+  }
   for (const PageControl& control : presenter_->controls()) {
     if (control.id != id) continue;
     if (control.kind == PageControlKind::KeyField && notification == BN_CLICKED) {

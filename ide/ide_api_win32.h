@@ -192,6 +192,8 @@ struct IMpdPage : IUnknown {
   virtual HWND __stdcall CreatePage(HWND parent) = 0;
   // The help text shown while the control has the focus; null for none.
   virtual IIdeString* __stdcall ControlHint(int controlId) = 0;
+  // Check and Store come while the page's window exists; a page whose window
+  // was not created, or is gone, accepts and stores nothing.
   // FALSE refuses the dialog's acceptance (the page has told the user why).
   virtual BOOL __stdcall Check() = 0;
   virtual void __stdcall Store() = 0;

@@ -13,6 +13,7 @@
 struct OptionPageEntry {
   const char* title;        // shown in the IDE's list of pages
   const char* description;  // the page's own description text
+  int32_t helpTopic;        // what the page's Help button shows; 0 for a page without one
 };
 
 constexpr size_t kOptionPageCount = 11;

@@ -2,6 +2,8 @@
 // each page refuses, tells, cuts and stores, with and without an open project.
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "completion/completion_page.h"
 #include "delivery/delivery_page.h"
 #include "delivery/mail_option_page.h"
@@ -11,6 +13,7 @@
 #include "ide/option_chapter.h"
 #include "rcgen/kesto_windows_page.h"
 #include "support/fake_host.h"
+#include "support/temp_dir.h"
 #include "tasks/task_page.h"
 #include "topbar/top_bar_page.h"
 
@@ -34,6 +37,8 @@ TEST(OptionChapterTest, PagesGetDialogsFrom102AndOnlyTheFirstIsTheChapterKind) {
   EXPECT_EQ(optionPageDialog(10), 112);
   EXPECT_EQ(optionPageKind(0), 0x1000);
   EXPECT_EQ(optionPageKind(1), 1);
+  EXPECT_EQ(kOptionPages[2].helpTopic, 12);
+  EXPECT_EQ(kOptionPages[3].helpTopic, 16);
   FirstOptionPage first("Windows NT 6.1");
   EXPECT_EQ(*bound(first, kVersionTextControl).text, "Version 1.2");
   EXPECT_EQ(*bound(first, kSystemTextControl).text, "Windows NT 6.1");
@@ -142,6 +147,22 @@ TEST(CompletionPageTest, RemoveAsksAndTheKeyIsStoredWithTheSwitch) {
   page.store();
   EXPECT_EQ(engine.keyCode, 4116);
   EXPECT_EQ(engine.textCode, "Ctrl+F5");
+}
+
+TEST(CompletionPageTest, ExtractionAddsTheNewKeywordFileOrTellsWhyNot) {
+  RecordingAlerts alerts;
+  TempDir dir;
+  std::ofstream(dir.file("stack.cpp")) << "int Stack::push(int v)\n{\n}\n";
+  CompletionEngine engine;
+  CompletionPage page(engine);
+  page.show();
+  EXPECT_TRUE(page.extractFrom(dir.file("stack.cpp")));
+  EXPECT_EQ(*bound(page, 1012).rows, std::vector<std::string>{dir.file("stack.kwd")});
+  EXPECT_EQ(*bound(page, 1012).selected, 0) << "the new file is selected";
+  EXPECT_FALSE(page.extractFrom(dir.file("missing.cpp")));
+  EXPECT_EQ(engine.files.size(), 1u);
+  ASSERT_EQ(alerts.boxes.size(), 1u);
+  EXPECT_EQ(alerts.boxes[0].text, "Impossible to extract keywords");
 }
 
 TEST(TaskPageTest, TypesAreJoinedWhenShownAndSplitWhenStored) {
