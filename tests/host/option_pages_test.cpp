@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <fstream>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@ namespace {
 
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 const std::string kWork = windowsPath(KESTO_HOST_WORK_DIR);
+constexpr int kFileNameCombo = 0x47c;  // the file-open dialog's file name
 
 std::string setting(const std::string& section, const std::string& name) {
   SettingsRegistry registry;
@@ -75,6 +78,39 @@ void screenshot(TestOptionsDialog& dialog, int index) {
   std::snprintf(name, sizeof name, "options-page-%03d", 102 + index);
   EXPECT_TRUE(saveScreenshot(name)) << name;
 }
+
+// Acts once on the dialog of that caption when it shows inside a modal loop,
+// and cancels it if it is still there seconds later.
+class DialogHand {
+ public:
+  DialogHand(const char* caption, std::function<void(HWND)> act) : caption_(caption), act_(std::move(act)) {
+    active_ = this;
+    timer_ = SetTimer(nullptr, 0, 50, tick);
+  }
+  ~DialogHand() {
+    KillTimer(nullptr, timer_);
+    active_ = nullptr;
+  }
+  DialogHand(const DialogHand&) = delete;
+  DialogHand& operator=(const DialogHand&) = delete;
+
+ private:
+  static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
+    if (active_) active_->onTick();
+  }
+  void onTick() {
+    HWND dialog = FindWindowA("#32770", caption_);
+    if (!dialog || !IsWindowVisible(dialog)) return;
+    if (++ticks_ == 4) act_(dialog);
+    if (ticks_ > 100) PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+  }
+  static DialogHand* active_;
+  const char* caption_;
+  std::function<void(HWND)> act_;
+  UINT_PTR timer_;
+  int ticks_ = 0;
+};
+DialogHand* DialogHand::active_ = nullptr;
 
 class OptionPagesTest : public ::testing::Test {
  protected:
@@ -153,6 +189,7 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
   putSetting("Completion", "NbFiles", "2");
   putSetting("Completion\\Files", "Entry0", kWork + "\\FIRST.KWD");
   putSetting("Completion\\Files", "Entry1", kWork + "\\SECOND.KWD");
+  std::ofstream(kWork + "\\THIRD.KWD") << "third\n";
   MessageBoxWatchdog watchdog;
   watchdog.answerWith(IDYES);
   LoadedAddon addon(kAddon);
@@ -196,6 +233,15 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
     selectRow(completion, 1012, 0);
     click(completion, 1015);
     EXPECT_EQ(listRows(completion, 1012), std::vector<std::string>{kWork + "\\SECOND.KWD"});
+    {
+      DialogHand chooser("Open a keyword file...", [](HWND open) {
+        saveScreenshot("options-open-keyword-file");
+        SetDlgItemTextA(open, kFileNameCombo, (kWork + "\\THIRD.KWD").c_str());
+        PostMessageA(open, WM_COMMAND, IDOK, 0);
+      });
+      click(completion, 1013);
+    }
+    EXPECT_EQ(listRows(completion, 1012), (std::vector<std::string>{kWork + "\\SECOND.KWD", kWork + "\\THIRD.KWD"}));
     click(completion, 1010);
     screenshot(dialog, 4);
 
@@ -259,8 +305,8 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
       {"QuickFind", "FunctionMask", "*.cxx"}, {"QuickFind", "LeftSide", "0"},
       {"TopBar", "LeftMargin", "5"},       {"TopBar", "AlwaysOnTop", "1"},
       {"TopBar", "MenuSize", "5"},         {"TopBar", "MaxIDE", "3"},
-      {"Completion", "Enabled", "0"},      {"Completion", "NbFiles", "1"},
-      {"Completion\\Files", "Entry0", kWork + "\\SECOND.KWD"},
+      {"Completion", "Enabled", "0"},      {"Completion", "NbFiles", "2"},
+      {"Completion\\Files", "Entry1", kWork + "\\THIRD.KWD"},
       {"Mail", "Control", "1"},            {"Tasks", "FlashEnded", "1"},
       {"Tasks", "KeyIsDelivery", "0"},     {"Tasks", "Types", "Bug;;Doc"},
       {"Groupware", "MailOnGet", "1"},     {"Groupware", "Filters", "*.cpp"},
@@ -321,40 +367,6 @@ TEST_F(OptionPagesTest, RefusedValueShowsItsTextAndNothingIsStored) {
   addon.stop();
 }
 
-// Strikes Ctrl+Shift+F5 into the key capture dialog once it shows.
-class KeyStriker {
- public:
-  KeyStriker() {
-    active_ = this;
-    timer_ = SetTimer(nullptr, 0, 50, tick);
-  }
-  ~KeyStriker() {
-    KillTimer(nullptr, timer_);
-    active_ = nullptr;
-  }
-  std::string text;
-
- private:
-  static void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
-    if (active_) active_->onTick();
-  }
-  void onTick() {
-    HWND dialog = FindWindowA("#32770", "Kesto AddOn");
-    if (!dialog || !IsWindowVisible(dialog)) return;
-    if (++ticks_ == 1) text = itemText(dialog, 101);
-    if (ticks_ == 4) {
-      saveScreenshot("options-key-capture");
-      SetFocus(dialog);
-      pressKey(VK_SHIFT);  // a modifier alone is no key
-      pressKey(VK_F5, true, true);
-    }
-    if (ticks_ > 100) PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
-  }
-  static KeyStriker* active_;
-  UINT_PTR timer_;
-  int ticks_ = 0;
-};
-KeyStriker* KeyStriker::active_ = nullptr;
 
 TEST_F(OptionPagesTest, KeyFieldCapturesTheStruckKeyThroughTheHooks) {
   MessageBoxWatchdog watchdog;
@@ -365,11 +377,18 @@ TEST_F(OptionPagesTest, KeyFieldCapturesTheStruckKeyThroughTheHooks) {
     dialog.select(2);
     HWND editor = dialog.pageWindow(2);
     EXPECT_EQ(itemText(editor, 1019), "???");
+    std::string prompt;
     {
-      KeyStriker striker;
+      DialogHand striker("Kesto AddOn", [&prompt](HWND capture) {
+        prompt = itemText(capture, 101);
+        saveScreenshot("options-key-capture");
+        SetFocus(capture);
+        pressKey(VK_SHIFT);  // a modifier alone is no key
+        pressKey(VK_F5, true, true);
+      });
       click(editor, 1019);
-      EXPECT_EQ(striker.text, "Strike any key...");
     }
+    EXPECT_EQ(prompt, "Strike any key...");
     EXPECT_EQ(itemText(editor, 1019), "Ctrl+Shift+F5");
     ASSERT_TRUE(dialog.accept());
   }
