@@ -129,13 +129,14 @@ class OptionPagesTest : public ::testing::Test {
 
   IMpdChapter* chapter() { return ide_.nodeOptions.chapters.empty() ? nullptr : ide_.nodeOptions.chapters[0]; }
 
+  // Declared in the order of their lives: the add-on goes first, the IDE last.
   TestIde ide_;
+  MessageBoxWatchdog watchdog_;
+  LoadedAddon addon_{kAddon};
 };
 
 TEST_F(OptionPagesTest, ChapterListsItsPagesInTableOrderWithTheTopicList) {
-  MessageBoxWatchdog watchdog;
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
+  ASSERT_TRUE(addon_.start(&ide_));
   ASSERT_EQ(ide_.nodeOptions.chapters.size(), 1u);
   const std::vector<std::pair<std::string, std::string>> expected = {
       {"Kesto AddOn for Borland C++", "Set general Kesto AddOn options"},
@@ -174,15 +175,15 @@ TEST_F(OptionPagesTest, ChapterListsItsPagesInTableOrderWithTheTopicList) {
     screenshot(dialog, 0);
   }
 
-  HRSRC found = FindResourceA(addon.module(), MAKEINTRESOURCEA(1), "MPD_TOPICLIST");
+  HRSRC found = FindResourceA(addon_.module(), MAKEINTRESOURCEA(1), "MPD_TOPICLIST");
   ASSERT_NE(found, nullptr);
-  ASSERT_EQ(SizeofResource(addon.module(), found), 18u);
-  const auto* bytes = static_cast<const unsigned char*>(LockResource(LoadResource(addon.module(), found)));
+  ASSERT_EQ(SizeofResource(addon_.module(), found), 18u);
+  const auto* bytes = static_cast<const unsigned char*>(LockResource(LoadResource(addon_.module(), found)));
   EXPECT_EQ(std::vector<unsigned char>(bytes, bytes + 18),
             (std::vector<unsigned char>{1, 0, 0, 0x10, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 1, 0}));
-  addon.stop();
+  addon_.stop();
   EXPECT_EQ(ide_.referencesHeld(), 0);
-  EXPECT_TRUE(watchdog.boxes().empty());
+  EXPECT_TRUE(watchdog_.boxes().empty());
 }
 
 TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProject) {
@@ -190,10 +191,8 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
   putSetting("Completion\\Files", "Entry0", kWork + "\\FIRST.KWD");
   putSetting("Completion\\Files", "Entry1", kWork + "\\SECOND.KWD");
   std::ofstream(kWork + "\\THIRD.KWD") << "third\n";
-  MessageBoxWatchdog watchdog;
-  watchdog.answerWith(IDYES);
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
+  watchdog_.answerWith(IDYES);
+  ASSERT_TRUE(addon_.start(&ide_));
   ide_.project.clients[0]->ProjectOpened(nullptr);
   ASSERT_EQ(ide_.tools.added.size(), 1u);
   HWND bar = FindWindowA("KADO", nullptr);
@@ -331,15 +330,13 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
   EXPECT_EQ(project["Kesto_GenRC"], integerOption(1));
 
   ide_.project.clients[0]->ProjectClosed();
-  addon.stop();
+  addon_.stop();
   EXPECT_EQ(ide_.referencesHeld(), 0);
-  EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Warning: Ok to remove this file ?"});
+  EXPECT_EQ(watchdog_.boxes(), std::vector<std::string>{"Warning: Ok to remove this file ?"});
 }
 
 TEST_F(OptionPagesTest, RefusedValueShowsItsTextAndNothingIsStored) {
-  MessageBoxWatchdog watchdog;
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
+  ASSERT_TRUE(addon_.start(&ide_));
   {
     TestOptionsDialog dialog(chapter());
     dialog.select(7);
@@ -361,17 +358,15 @@ TEST_F(OptionPagesTest, RefusedValueShowsItsTextAndNothingIsStored) {
   EXPECT_EQ(setting("General", "TimerCount"), "60");
   EXPECT_EQ(setting("Menus", "Size"), "99");
   EXPECT_EQ(setting("Tasks", "Types"), "Only;These");
-  EXPECT_EQ(watchdog.boxes(), (std::vector<std::string>{"Kesto Addon error: Timer size must be between 0 and 60 min.",
+  EXPECT_EQ(watchdog_.boxes(), (std::vector<std::string>{"Kesto Addon error: Timer size must be between 0 and 60 min.",
                                                         "Kesto Addon error: Timer size must be between 0 and 60 min.",
                                                         "Kesto Addon error: Menu size must be between 10 and 99."}));
-  addon.stop();
+  addon_.stop();
 }
 
 
 TEST_F(OptionPagesTest, KeyFieldCapturesTheStruckKeyThroughTheHooks) {
-  MessageBoxWatchdog watchdog;
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
+  ASSERT_TRUE(addon_.start(&ide_));
   {
     TestOptionsDialog dialog(chapter());
     dialog.select(2);
@@ -394,8 +389,8 @@ TEST_F(OptionPagesTest, KeyFieldCapturesTheStruckKeyThroughTheHooks) {
   }
   EXPECT_EQ(setting("QuickFind", "KeyFunction"), "5116");
   EXPECT_EQ(setting("QuickFind", "TxtFunction"), "Ctrl+Shift+F5");
-  addon.stop();
-  EXPECT_TRUE(watchdog.boxes().empty());
+  addon_.stop();
+  EXPECT_TRUE(watchdog_.boxes().empty());
 }
 
 }  // namespace

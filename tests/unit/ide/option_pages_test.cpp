@@ -14,7 +14,6 @@
 #include "rcgen/kesto_windows_page.h"
 #include "support/fake_host.h"
 #include "support/temp_dir.h"
-#include "tasks/task_page.h"
 #include "topbar/top_bar_page.h"
 
 namespace {
@@ -163,18 +162,6 @@ TEST(CompletionPageTest, ExtractionAddsTheNewKeywordFileOrTellsWhyNot) {
   EXPECT_EQ(engine.files.size(), 1u);
   ASSERT_EQ(alerts.boxes.size(), 1u);
   EXPECT_EQ(alerts.boxes[0].text, "Impossible to extract keywords");
-}
-
-TEST(TaskPageTest, TypesAreJoinedWhenShownAndSplitWhenStored) {
-  TaskList tasks;
-  TaskPage page(tasks);
-  page.show();
-  EXPECT_EQ(*bound(page, 1019).text, "Design;Evolution;Bug;Documentation");
-  *bound(page, 1019).text = "Bug;;Doc;";
-  *bound(page, 1015).value = 0;
-  page.store();
-  EXPECT_EQ(tasks.typeNames(), (std::vector<std::string>{"Bug", "", "Doc"}));
-  EXPECT_EQ(tasks.keyIsDelivery, 0);
 }
 
 TEST(MailOptionPageTest, ListCommandsNeedAProjectAndPasteACopiedList) {
