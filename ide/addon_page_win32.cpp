@@ -1,6 +1,8 @@
 // The option page's dialog: a switchboard between the controls and the presenter.
 #include "ide/addon_page_win32.h"
 
+#include <cerrno>
+#include <cstdint>
 #include <cstdlib>
 #include <string>
 
@@ -23,11 +25,13 @@ void setControlText(HWND dialog, int32_t id, const std::string& text) {
   if (controlText(dialog, id) != text) SetDlgItemTextA(dialog, id, text.c_str());
 }
 
-// A signed decimal number; anything else reads as 0, which the page's check judges.
+// A signed decimal number; anything else, too large a number included, reads
+// as 0, which the page's check judges.
 int32_t numberOf(const std::string& text) {
   char* end = nullptr;
-  const long value = std::strtol(text.c_str(), &end, 10);
-  if (text.empty() || *end != '\0' || value < INT32_MIN || value > INT32_MAX) return 0;
+  errno = 0;
+  const long long value = std::strtoll(text.c_str(), &end, 10);
+  if (text.empty() || *end != '\0' || errno == ERANGE || value < INT32_MIN || value > INT32_MAX) return 0;
   return static_cast<int32_t>(value);
 }
 
