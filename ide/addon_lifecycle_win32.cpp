@@ -12,6 +12,7 @@
 #include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
+#include "groupware/groupware_settings.h"
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
@@ -19,6 +20,7 @@
 #include "ide/help_file_win32.h"
 #include "ide/hook_set_win32.h"
 #include "ide/make_sequence.h"
+#include "ide/option_chapter_win32.h"
 #include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
@@ -122,6 +124,15 @@ void createOptionsHolder(IIdeRoot*) {
   addon().options = new (std::nothrow) ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions);
   if (addon().options && !addon().options->get())
     alert("Assertion failed: svr!=NULL, file koptions, line 13", "Erreur", kAlertIconHand);
+  // The chapter goes into the IDE's options dialog with the holder's service.
+  if (!addon().options || !addon().options->get()) return;
+  addon().chapter = new (std::nothrow) IMpdChapterAddon(addon().environment->instance);
+  if (addon().chapter) addon().options->get()->AddChapter(addon().chapter);
+}
+
+void releaseChapter(IIdeRoot*) {
+  if (addon().chapter) addon().chapter->Release();
+  addon().chapter = nullptr;
 }
 
 const Step kInitialisation[] = {
@@ -164,7 +175,7 @@ const Step kInitialisation[] = {
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
     {"create the task manager", [](IIdeRoot*) { create<TaskList>(addon().tasks, nullptr); }},
-    {"create the groupware settings", nullptr},
+    {"create the groupware settings", [](IIdeRoot*) { create(addon().groupware, &GroupwareSettings::load); }},
     {"create the HTML settings", nullptr},
     {"create the groupware project object, given the project service", nullptr},
     // The start-up menu stays until the IDE's message loop runs the first rebuild.
@@ -197,7 +208,7 @@ const Step kShutdown[] = {
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
     {"save the tasks and delete the task manager",
      [](IIdeRoot*) { saveAndDestroy(addon().tasks, &TaskList::saveSettings); }},
-    {"delete the groupware settings", nullptr},
+    {"delete the groupware settings", [](IIdeRoot*) { saveAndDestroy(addon().groupware, &GroupwareSettings::save); }},
     {"delete the HTML settings", nullptr},
     {"delete the groupware project object", nullptr},
     {"destroy the bar window", destroyBar},
@@ -212,6 +223,7 @@ const Step kShutdown[] = {
        addon().delivTool->Release();
        addon().delivTool = nullptr;
      }},
+    {"release the chapter", releaseChapter},
     {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
     {"delete the project clients", [](IIdeRoot*) { destroy(addon().projectClients); }},
     {"release the IDE pointer", [](IIdeRoot*) { releaseIdePointer(); }},

@@ -13,8 +13,10 @@ class DelivTool;
 class Delivery;
 class MakeSequence;
 class GeneralBehaviours;
+struct GroupwareSettings;
 class HelpFile;
 class HookSet;
+class IMpdChapterAddon;
 class Mail;
 class ProjectTestA;
 class QuickFind;
@@ -44,6 +46,8 @@ struct AddonSlots {
   RecentFiles* recentFiles = nullptr;
   TopBar* topBar = nullptr;
   GeneralBehaviours* general = nullptr;
+  GroupwareSettings* groupware = nullptr;
+  IMpdChapterAddon* chapter = nullptr;  // one reference ours; the options service holds another
 };
 
 AddonSlots& addon();

@@ -104,6 +104,9 @@ struct IIdeNodeOptions : IUnknown {
   // that is too small gets nothing and FALSE with the size needed.
   virtual BOOL __stdcall GetProjectOption(IIdeString* name, void* bytes, unsigned long* size) = 0;
   virtual BOOL __stdcall SetProjectOption(IIdeString* name, const void* bytes, unsigned long size) = 0;
+  // Adds the chapter to the options dialog. The service keeps the pointer
+  // without a reference and holds references only while its dialog is open;
+  // the add-on keeps the chapter alive until it shuts down.
   virtual void __stdcall AddChapter(IMpdChapter* chapter) = 0;
 };
 
@@ -186,11 +189,22 @@ struct IIdeTools : IUnknown {
 // One page of the add-on's chapter in the IDE's options dialog.
 struct IMpdPage : IUnknown {
   virtual IIdeString* __stdcall Title() = 0;
+  // The page's window, a child of parent filled from the current settings, each
+  // time the dialog opens; the IDE destroys it with the dialog. Null on failure.
   virtual HWND __stdcall CreatePage(HWND parent) = 0;
+  // The help text shown while the control has the focus; null for none.
   virtual IIdeString* __stdcall ControlHint(int controlId) = 0;
+  // Check and Store come while the page's window exists; a page whose window
+  // was not created, or is gone, accepts and stores nothing.
   // FALSE refuses the dialog's acceptance (the page has told the user why).
   virtual BOOL __stdcall Check() = 0;
   virtual void __stdcall Store() = 0;
+  // The page's own description text, shown by the IDE above the page.
+  virtual IIdeString* __stdcall Description() = 0;
+  // 0x1000 for the chapter's first page, 1 for the others.
+  virtual long __stdcall Kind() = 0;
+  // The id of the page's dialog template in the add-on's resources.
+  virtual long __stdcall DialogId() = 0;
 };
 
 struct IMpdChapter : IUnknown {

@@ -10,6 +10,7 @@
 #include "delivery/mail.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
+#include "groupware/groupware_settings.h"
 #include "html/ht_generation.h"
 #include "html/ht_thread_win32.h"
 #include "ide/addon_slots_win32.h"
@@ -81,6 +82,7 @@ void __stdcall ProjectClientImpl::ProjectClosed() {
   if (addon().delivTool) addon().delivTool->unregisterTool();
   if (addon().delivery) addon().delivery->groups.clear();
   if (addon().mail) addon().mail->setRecipients({});
+  if (addon().groupware) addon().groupware->server = "";
   if (addon().recentFiles) addon().recentFiles->rememberProject(gProjectFile);
   gOpenProject.reset();
   if (addon().topBar) addon().topBar->rebuildMenu();
@@ -104,6 +106,7 @@ void readOpenProject(const std::string& projectFile) {
   if (addon().makeSequence) addon().makeSequence->setOptions(*gOpenProject);
   if (gOpenProject->withDelivery && addon().delivTool) addon().delivTool->registerTool();
   if (addon().delivery) addon().delivery->load(*gOpenProject);
+  if (addon().groupware) addon().groupware->server = gOpenProject->groupwareServer;
   if (addon().mail) addon().mail->setRecipients(gOpenProject->mailRecipients);
 }
 

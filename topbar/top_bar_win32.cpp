@@ -141,6 +141,18 @@ void TopBar::runProjectFile(uint32_t index) {
   if (removeIdeProjectNode(*node)) rebuildMenu();
 }
 
+void TopBar::applyStoredPage(const TopBarPageChanges& changes) {
+  rebuildMenu();
+  if (changes.margins) placeNormal();
+  if (changes.enabled) ShowWindow(bar_, settings.enabled ? SW_SHOWNA : SW_HIDE);
+  if (!changes.alwaysOnTop) return;
+  // The older look has no tool-window style.
+  const LONG toolWindow = settings.newShell ? WS_EX_TOOLWINDOW : 0;
+  SetWindowLongA(bar_, GWL_EXSTYLE, settings.alwaysOnTop ? WS_EX_TOPMOST | toolWindow : toolWindow);
+  SetWindowPos(bar_, settings.alwaysOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 void TopBar::showItemStatus(UINT id) {
   BarItemNames names;
   names.recentProject = [this](uint32_t n) { return n < recent().projects.size() ? recent().projects[n] : std::string(); };

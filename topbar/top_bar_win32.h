@@ -11,6 +11,7 @@
 #include "topbar/bar_geometry.h"
 #include "topbar/bar_menu.h"
 #include "topbar/recent_files.h"
+#include "topbar/top_bar_page.h"
 #include "topbar/top_bar_settings.h"
 
 class TopBar {
@@ -38,6 +39,10 @@ class TopBar {
   // Refills the header submenu (the first submenu of the first menu) from the
   // recent headers; a missing piece is named on the status line.
   void refreshHeaderMenu();
+
+  // After the options page was stored: the menus built anew, then the bar
+  // placed, shown or hidden and moved in or out of the topmost band as the changes say.
+  void applyStoredPage(const TopBarPageChanges& changes);
 
   // The status text of a highlighted item.
   void showItemStatus(UINT id);
