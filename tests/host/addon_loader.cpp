@@ -50,12 +50,34 @@ std::vector<std::string> MessageBoxWatchdog::boxes() {
   return boxes_;
 }
 
+namespace {
+
+BOOL CALLBACK findOtherControl(HWND control, LPARAM found) {
+  const int id = GetDlgCtrlID(control);
+  // A box holds its buttons (IDOK to IDCONTINUE), its text (0xFFFF) and its icon (20, or 0x440 in Wine).
+  if ((id < IDOK || id > 11) && id != 0xFFFF && id != 20 && id != 0x440) {
+    *reinterpret_cast<bool*>(found) = true;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+// The add-on's own dialogs are the tests' to drive; only message boxes are answered here.
+bool isMessageBox(HWND dialog) {
+  bool other = false;
+  EnumChildWindows(dialog, findOtherControl, reinterpret_cast<LPARAM>(&other));
+  return !other;
+}
+
+}  // namespace
+
 BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
   char windowClass[16] = {};
   GetClassNameA(window, windowClass, sizeof windowClass);
-  if (process != GetCurrentProcessId() || std::string(windowClass) != "#32770" || !IsWindowVisible(window))
+  if (process != GetCurrentProcessId() || std::string(windowClass) != "#32770" || !IsWindowVisible(window) ||
+      !isMessageBox(window))
     return TRUE;
   char caption[256] = {};
   char text[1024] = {};

@@ -1,14 +1,15 @@
 // The delivery tool in the IDE: in the Tool menu while a project is open, the
-// confirmation dialog, the copies; and the class files written when a Make starts.
+// confirmation dialog, the copies and their progress bar in the status window,
+// the report mailed with the task notes; and the class files written when a Make starts.
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <thread>
 
 #include "addon_loader.h"
+#include "ide/status_progress_win32.h"
+#include "ui_driver.h"
 
 namespace {
 
@@ -20,42 +21,6 @@ std::string readAll(const std::string& path) {
   text << in.rdbuf();
   return text.str();
 }
-
-// Waits for the confirmation dialog, reads what it shows and presses "Proceed".
-class ConfirmationClicker {
- public:
-  ConfirmationClicker()
-      : thread_([this] {
-          for (int tries = 0; tries < 200 && !done_; ++tries) {
-            HWND dialog = FindWindowA("#32770", "Kesto Delivery");
-            if (dialog && IsWindowVisible(dialog)) {
-              char row[512] = {};
-              SendDlgItemMessageA(dialog, 101, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(row));
-              firstRow = row;
-              rows = static_cast<int>(SendDlgItemMessageA(dialog, 101, LB_GETCOUNT, 0, 0));
-              mailChecked = IsDlgButtonChecked(dialog, 103) == BST_CHECKED;
-              SendMessageA(GetDlgItem(dialog, 102), BM_CLICK, 0, 0);
-              return;
-            }
-            Sleep(50);
-          }
-        }) {}
-  ~ConfirmationClicker() {
-    done_ = true;
-    wait();
-  }
-  void wait() {
-    if (thread_.joinable()) thread_.join();
-  }
-
-  std::string firstRow;
-  int rows = 0;
-  bool mailChecked = true;
-
- private:
-  std::atomic<bool> done_{false};
-  std::thread thread_;
-};
 
 class DeliveryToolTest : public ::testing::Test {
  protected:
@@ -77,9 +42,17 @@ class DeliveryToolTest : public ::testing::Test {
     stored["Kesto_ODR_TYP_0"] = std::string("+.exe\0", 6);
     stored["Kesto_ODR_REP_0"] = "+" + dir_ + "\\BIN" + std::string(1, '\0');
     stored["Kesto_EWindows"] = std::string("\x01\0\0\0", 4);
+    stored["Kesto_NB_MAIL"] = std::string("\x01\0\0\0", 4);
+    stored["Kesto_MAIL_PJ_0"] = std::string("+lead@example.org\0", 18);
+    std::ofstream(dir_ + "\\DEMO.IDE.tsk.txt", std::ios::binary) << "  NOTIFICATIONS FOR ENDED TASKS\n";
+    mapiLog_ = dir_ + "\\mapi.log";
+    DeleteFileA(mapiLog_.c_str());
+    SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", mapiLog_.c_str());
   }
+  void TearDown() override { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", nullptr); }
 
   std::string dir_;
+  std::string mapiLog_;
   TestIde ide_;
 };
 
@@ -101,14 +74,27 @@ TEST_F(DeliveryToolTest, ToolDeliversAfterConfirmationAndMakeWritesClassFiles) {
     ASSERT_NE(tool.implementor, nullptr);
 
     {
-      ConfirmationClicker clicker;
+      ModalDriver driver;
+      driver.dialogTitle = "Kesto Delivery";
+      driver.dialogScreenshot = "delivery-confirmation";
+      driver.dialogButtons = {102};
+      bool mailChecked = false;
+      driver.onDialog = [&mailChecked](HWND dialog) { mailChecked = IsDlgButtonChecked(dialog, 103) == BST_CHECKED; };
       EXPECT_EQ(tool.implementor->Execute(nullptr), 0);
-      clicker.wait();
-      EXPECT_EQ(clicker.rows, 1);
-      EXPECT_EQ(clicker.firstRow, "APP.EXE -> " + dir_ + "\\BIN");
-      EXPECT_FALSE(clicker.mailChecked) << "the project has no recipients";
+      EXPECT_EQ(driver.dialogList, std::vector<std::string>{"APP.EXE -> " + dir_ + "\\BIN"});
+      EXPECT_TRUE(mailChecked) << "the project has a recipient";
     }
     EXPECT_EQ(readAll(dir_ + "\\BIN\\APP.EXE"), std::string(50000, 'k'));
+    const std::string mail = readAll(mapiLog_);
+    EXPECT_EQ(mail.rfind("subject: Delivery : demo : 1 file (", 0), 0u) << mail;
+    EXPECT_NE(mail.find("to: [1 lead@example.org]\nnote:\n" + dir_ + "\\APP.EXE delivered to " + dir_ +
+                        "\\BIN\n  NOTIFICATIONS FOR ENDED TASKS\n" + std::string(70, '-') +
+                        "\nThat's all folks !\n\n.end\n"),
+              std::string::npos)
+        << mail;
+    EXPECT_EQ(GetFileAttributesA((dir_ + "\\DEMO.IDE.tsk.txt").c_str()), INVALID_FILE_ATTRIBUTES)
+        << "the notes are consumed by the sending";
+
     ASSERT_EQ(ide_.messageWindow.messages.size(), 2u);
     EXPECT_EQ(ide_.messageWindow.messages[0].group, "Delivery");
     EXPECT_EQ(ide_.messageWindow.messages[0].text.rfind("demo : 1 file (", 0), 0u);
@@ -125,6 +111,27 @@ TEST_F(DeliveryToolTest, ToolDeliversAfterConfirmationAndMakeWritesClassFiles) {
   }
   EXPECT_EQ(ide_.referencesHeld(), 0);
   EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST(StatusProgressTest, BarFillsTheStatusWindowInProportionAndGoesAtTheEnd) {
+  TestIde ide;
+  HWND status = ide.windows.status;
+  ASSERT_NE(status, nullptr);
+  RECT area;
+  GetClientRect(status, &area);
+  const int y = area.bottom / 2;
+  const int barWidth = area.right - 90;
+  drawStatusProgress(25, 100, "APP.EXE");
+  saveScreenshot("status-progress");
+  HDC dc = GetDC(status);
+  EXPECT_EQ(GetPixel(dc, 2, y), RGB(0, 0, 255)) << "the done part is blue";
+  EXPECT_NE(GetPixel(dc, barWidth * 3 / 4, y), RGB(0, 0, 255)) << "the rest is not";
+  EXPECT_NE(GetPixel(dc, barWidth + 40, y), RGB(0, 0, 255)) << "the last 90 pixels stay the status window's";
+  drawStatusProgress(100, 100, "APP.EXE");
+  EXPECT_EQ(GetPixel(dc, barWidth - 2, y), RGB(0, 0, 255));
+  endStatusProgress();
+  EXPECT_NE(GetPixel(dc, 2, y), RGB(0, 0, 255)) << "the end repaints the status window";
+  ReleaseDC(status, dc);
 }
 
 }  // namespace

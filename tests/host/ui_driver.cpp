@@ -149,7 +149,7 @@ void ModalDriver::onTick() {
   } else if (menuTicks_ > 0) {
     menuTicks_ = 0;
   }
-  if (HWND dialog = ownWindow("#32770")) {
+  if (HWND dialog = findDialog()) {
     driveDialog(dialog);
   } else {
     dialogTicks_ = 0;
@@ -194,6 +194,14 @@ void ModalDriver::driveMenu(HWND menuWindow) {
   }
 }
 
+HWND ModalDriver::findDialog() const {
+  if (dialogTitle.empty()) return ownWindow("#32770");
+  HWND dialog = FindWindowA("#32770", dialogTitle.c_str());
+  DWORD process = 0;
+  GetWindowThreadProcessId(dialog, &process);
+  return dialog && process == GetCurrentProcessId() && IsWindowVisible(dialog) ? dialog : nullptr;
+}
+
 void ModalDriver::driveDialog(HWND dialog) {
   const int tick = ++dialogTicks_;
   if (tick == 1) {
@@ -203,17 +211,28 @@ void ModalDriver::driveDialog(HWND dialog) {
     GetDlgItemTextA(dialog, 101, text, sizeof text);
     dialogFirstText = text;
     HWND list = GetDlgItem(dialog, 101);
-    const int count = static_cast<int>(SendMessageA(list, CB_GETCOUNT, 0, 0));
+    char listClass[32] = {};
+    GetClassNameA(list, listClass, sizeof listClass);
+    const bool isListBox = lstrcmpiA(listClass, "ListBox") == 0;
+    const int count = static_cast<int>(SendMessageA(list, isListBox ? LB_GETCOUNT : CB_GETCOUNT, 0, 0));
     for (int i = 0; i < count; ++i) {
-      char entry[256] = {};
-      SendMessageA(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(entry));
+      char entry[512] = {};
+      SendMessageA(list, isListBox ? LB_GETTEXT : CB_GETLBTEXT, static_cast<WPARAM>(i),
+                   reinterpret_cast<LPARAM>(entry));
       dialogList.push_back(entry);
     }
-    SetDlgItemTextA(dialog, 101, dialogText.c_str());
+    if (!dialogText.empty()) SetDlgItemTextA(dialog, 101, dialogText.c_str());
+    if (onDialog) onDialog(dialog);
     return;
   }
   if (tick == 4 && !dialogScreenshot.empty()) saveScreenshot(dialogScreenshot);
-  if (tick == 6) PostMessageA(dialog, WM_COMMAND, cancelDialog ? IDCANCEL : IDOK, 0);
+  // A press may open a message box: the next one waits a few ticks for it to be answered.
+  const size_t press = tick >= 6 && tick % 4 == 2 ? static_cast<size_t>((tick - 6) / 4) : dialogButtons.size();
+  if (press < dialogButtons.size()) {
+    const int button = dialogButtons[press];
+    PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(dialog, button)));
+  }
   if (tick > kWatchdogTicks) {
     ++watchdogFired;
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
