@@ -12,6 +12,7 @@
 #include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
+#include "groupware/groupware_settings.h"
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
@@ -164,7 +165,7 @@ const Step kInitialisation[] = {
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
     {"create the task manager", [](IIdeRoot*) { create<TaskList>(addon().tasks, nullptr); }},
-    {"create the groupware settings", nullptr},
+    {"create the groupware settings", [](IIdeRoot*) { create(addon().groupware, &GroupwareSettings::load); }},
     {"create the HTML settings", nullptr},
     {"create the groupware project object, given the project service", nullptr},
     // The start-up menu stays until the IDE's message loop runs the first rebuild.
@@ -197,7 +198,8 @@ const Step kShutdown[] = {
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
     {"save the tasks and delete the task manager",
      [](IIdeRoot*) { saveAndDestroy(addon().tasks, &TaskList::saveSettings); }},
-    {"delete the groupware settings", nullptr},
+    {"delete the groupware settings",
+     [](IIdeRoot*) { saveAndDestroy(addon().groupware, &GroupwareSettings::save); }},
     {"delete the HTML settings", nullptr},
     {"delete the groupware project object", nullptr},
     {"destroy the bar window", destroyBar},

@@ -13,6 +13,7 @@ class DelivTool;
 class Delivery;
 class MakeSequence;
 class GeneralBehaviours;
+struct GroupwareSettings;
 class HelpFile;
 class HookSet;
 class Mail;
@@ -44,6 +45,7 @@ struct AddonSlots {
   RecentFiles* recentFiles = nullptr;
   TopBar* topBar = nullptr;
   GeneralBehaviours* general = nullptr;
+  GroupwareSettings* groupware = nullptr;
 };
 
 AddonSlots& addon();

@@ -81,3 +81,22 @@ bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind
   bool found = false;
   return inheritedOption(root, node, kind, value, &found);
 }
+
+bool nodePathOf(const ProjectNode& root, const ProjectNode& node, std::vector<size_t>* path) {
+  if (&root == &node) return true;
+  for (size_t i = 0; i < root.nodes.size(); ++i) {
+    path->push_back(i);
+    if (nodePathOf(root.nodes[i], node, path)) return true;
+    path->pop_back();
+  }
+  return false;
+}
+
+const ProjectNode* nodeAtPath(const ProjectNode& root, const std::vector<size_t>& path) {
+  const ProjectNode* node = &root;
+  for (size_t i : path) {
+    if (i >= node->nodes.size()) return nullptr;
+    node = &node->nodes[i];
+  }
+  return node;
+}

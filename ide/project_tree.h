@@ -39,3 +39,9 @@ const ProjectNode* parentOf(const ProjectNode& root, const ProjectNode& node);
 // The option of a node of root's tree: its own value, else its nearest
 // ancestor's, as the IDE's nodes inherit options; false when none has one.
 bool nodeOption(const ProjectNode& root, const ProjectNode& node, NodeOptionKind kind, std::string* value);
+
+// The child positions that lead from root to node, so that the same node can
+// be found in another copy of the tree; false for a node outside root's tree.
+bool nodePathOf(const ProjectNode& root, const ProjectNode& node, std::vector<size_t>* path);
+// The node at path under root; null when the tree has no such node.
+const ProjectNode* nodeAtPath(const ProjectNode& root, const std::vector<size_t>& path);

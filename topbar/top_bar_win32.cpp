@@ -2,6 +2,7 @@
 #include "topbar/top_bar_win32.h"
 
 #include "foundation/settings.h"
+#include "groupware/quick_add_dialog_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_host_win32.h"
 #include "ide/ide_windows_win32.h"
@@ -26,6 +27,18 @@ void runNodeTool(const ProjectNode& node) {
   const std::string file = projectPath(projectDirectoryOf(ideHost().projectFile()), node.name);
   const int result = ideHost().runTool(tool, file);
   if (result != 0) ideHost().showStatus(toolResultText(result));
+}
+
+bool altHeldAlone() { return (GetKeyState(VK_MENU) & 0x8000) && !(GetKeyState(VK_CONTROL) & 0x8000); }
+
+// Quick add beside node, a node of the bar's copy of the tree: the dialog works
+// on the host's own tree, where the same place holds the same node. True when a node was added.
+bool quickAddBeside(const ProjectNode& barTree, const ProjectNode& node) {
+  std::vector<size_t> path;
+  const ProjectNode* top = ideHost().projectRoot();
+  const ProjectNode* current = top && nodePathOf(barTree, node, &path) ? nodeAtPath(*top, path) : nullptr;
+  HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
+  return current && runQuickAddDialog(instance, ideFrame(), ideHost(), *top, *current);
 }
 
 bool projectViewOpen() {
@@ -147,6 +160,10 @@ bool TopBar::runCommand(BarCommand command, uint32_t index) {
     case BarCommand::ProjectFile:
       if (index >= menu_.projectFiles.size()) {
         ideHost().showStatus("Internal error: not enough files");
+        return true;
+      }
+      if (altHeldAlone()) {
+        if (quickAddBeside(project_, *menu_.projectFiles[index])) rebuildMenu();
         return true;
       }
       runNodeTool(*menu_.projectFiles[index]);

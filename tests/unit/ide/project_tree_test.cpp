@@ -38,3 +38,15 @@ TEST(ProjectTreeTest, NodesInheritTheNearestAncestorsOptionsOnly) {
   EXPECT_EQ(value, "untouched");
   EXPECT_EQ(findNodeHoldingFile(root, "missing.cpp"), nullptr);
 }
+
+TEST(ProjectTreeTest, APathFindsTheSameNodeInACopyAndNothingInAShorterTree) {
+  const ProjectNode root = node("demo.kpj", {node("app.exe", {node("a.cpp"), node("b.cpp")}), node("tool.exe")});
+  const ProjectNode copy = root;
+  std::vector<size_t> path;
+  ASSERT_TRUE(nodePathOf(root, root.nodes[0].nodes[1], &path));
+  EXPECT_EQ(nodeAtPath(copy, path), &copy.nodes[0].nodes[1]);
+  path.clear();
+  EXPECT_FALSE(nodePathOf(root, copy.nodes[1], &path)) << "a node of another tree";
+  EXPECT_EQ(nodeAtPath(node("demo.kpj", {node("app.exe")}), {0, 1}), nullptr);
+  EXPECT_EQ(nodeAtPath(root, {}), &root);
+}
