@@ -1,6 +1,18 @@
 // Loading the add-on and answering its message boxes.
 #include "addon_loader.h"
 
+#include <fstream>
+#include <sstream>
+
+std::string testFolder(const std::string& name) {
+  char program[MAX_PATH] = {};
+  GetModuleFileNameA(nullptr, program, sizeof program);
+  std::string folder(program);
+  folder = folder.substr(0, folder.rfind('\\') + 1) + name;
+  CreateDirectoryA(folder.c_str(), nullptr);
+  return folder;
+}
+
 std::string windowsPath(std::string path) {
   for (char& c : path)
     if (c == '/') c = '\\';
@@ -69,6 +81,23 @@ bool isMessageBox(HWND dialog) {
   return !other;
 }
 
+BOOL CALLBACK findDefaultButton(HWND control, LPARAM found) {
+  char windowClass[16] = {};
+  GetClassNameA(control, windowClass, sizeof windowClass);
+  if (lstrcmpiA(windowClass, "Button") != 0) return TRUE;
+  int* id = reinterpret_cast<int*>(found);
+  const bool isDefault = (GetWindowLongA(control, GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+  if (*id == 0 || isDefault) *id = GetDlgCtrlID(control);
+  return !isDefault;
+}
+
+// The box's default button: the one so styled, else its first ("Yes" of "Yes" and "No").
+int defaultButton(HWND box) {
+  int id = 0;
+  EnumChildWindows(box, findDefaultButton, reinterpret_cast<LPARAM>(&id));
+  return id != 0 ? id : IDOK;
+}
+
 }  // namespace
 
 BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
@@ -92,6 +121,22 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   if (watchdog->onBox_) watchdog->onBox_(box);
   // Hidden at once, so that the next round does not count it again before it closes.
   ShowWindow(window, SW_HIDE);
-  PostMessageA(window, WM_COMMAND, IDOK, 0);
+  PostMessageA(window, WM_COMMAND, defaultButton(window), 0);
   return TRUE;
+}
+
+RecordedMail::RecordedMail(const std::string& name) : path_(testFolder("mail") + "\\" + name) {
+  DeleteFileA(path_.c_str());
+  SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", path_.c_str());
+}
+
+RecordedMail::~RecordedMail() { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", nullptr); }
+
+std::string RecordedMail::text() const { return readWholeFile(path_); }
+
+std::string readWholeFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  return text.str();
 }

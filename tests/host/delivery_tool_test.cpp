@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <sstream>
 #include <string>
 
 #include "addon_loader.h"
+#include "foundation/settings.h"
 #include "ide/status_progress_win32.h"
 #include "ui_driver.h"
 
@@ -15,20 +15,12 @@ namespace {
 
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 
-std::string readAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
-  return text.str();
-}
-
 class DeliveryToolTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    char folder[MAX_PATH];
-    GetCurrentDirectoryA(sizeof folder, folder);
-    dir_ = std::string(folder) + "\\delivery-tool";
-    CreateDirectoryA(dir_.c_str(), nullptr);
+    // Task notes go with the delivery mail.
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+    dir_ = testFolder("delivery-tool");
     CreateDirectoryA((dir_ + "\\BIN").c_str(), nullptr);
     DeleteFileA((dir_ + "\\BIN\\APP.EXE").c_str());
     DeleteFileA((dir_ + "\\rc.h").c_str());
@@ -45,14 +37,10 @@ class DeliveryToolTest : public ::testing::Test {
     stored["Kesto_NB_MAIL"] = std::string("\x01\0\0\0", 4);
     stored["Kesto_MAIL_PJ_0"] = std::string("+lead@example.org\0", 18);
     std::ofstream(dir_ + "\\DEMO.IDE.tsk.txt", std::ios::binary) << "  NOTIFICATIONS FOR ENDED TASKS\n";
-    mapiLog_ = dir_ + "\\mapi.log";
-    DeleteFileA(mapiLog_.c_str());
-    SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", mapiLog_.c_str());
   }
-  void TearDown() override { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", nullptr); }
 
   std::string dir_;
-  std::string mapiLog_;
+  RecordedMail mail_{"delivery-mail.log"};
   TestIde ide_;
 };
 
@@ -84,8 +72,8 @@ TEST_F(DeliveryToolTest, ToolDeliversAfterConfirmationAndMakeWritesClassFiles) {
       EXPECT_EQ(driver.dialogList, std::vector<std::string>{"APP.EXE -> " + dir_ + "\\BIN"});
       EXPECT_TRUE(mailChecked) << "the project has a recipient";
     }
-    EXPECT_EQ(readAll(dir_ + "\\BIN\\APP.EXE"), std::string(50000, 'k'));
-    const std::string mail = readAll(mapiLog_);
+    EXPECT_EQ(readWholeFile(dir_ + "\\BIN\\APP.EXE"), std::string(50000, 'k'));
+    const std::string mail = mail_.text();
     EXPECT_EQ(mail.rfind("subject: Delivery : demo : 1 file (", 0), 0u) << mail;
     EXPECT_NE(mail.find("to: [1 lead@example.org]\nnote:\n" + dir_ + "\\APP.EXE delivered to " + dir_ +
                         "\\BIN\n  NOTIFICATIONS FOR ENDED TASKS\n" + std::string(70, '-') +

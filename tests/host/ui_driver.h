@@ -20,6 +20,13 @@ void clickAt(POINT point, bool rightButton = false);
 // A key stroke, with Ctrl and Shift held around it when asked.
 void pressKey(WORD virtualKey, bool ctrl = false, bool shift = false);
 
+// A click on a dialog's button, as its command reaches the dialog (at once, sent).
+void pressButton(HWND dialog, int id);
+// The visible top-level window of this process with that caption; null when none.
+HWND ownDialog(const std::string& caption);
+// The rows of a dialog's list box.
+std::vector<std::string> listBoxRows(HWND dialog, int id);
+
 // The screen as a PNG file named name under the screenshot folder; false when it could not be taken.
 bool saveScreenshot(const std::string& name);
 
