@@ -69,6 +69,7 @@ INT_PTR CALLBACK gwDialogProc(HWND window, UINT message, WPARAM wParam, LPARAM l
     }
     case WM_COMMAND: {
       const int id = LOWORD(wParam);
+      if (!dialog) return FALSE;
       if (id == IDCANCEL) {
         EndDialog(window, 0);
         return TRUE;

@@ -38,6 +38,7 @@ INT_PTR CALLBACK quickAddProc(HWND dialog, UINT message, WPARAM wParam, LPARAM l
       enableContainer(dialog, *presenter);
       return TRUE;
     case WM_COMMAND:
+      if (!presenter) return FALSE;
       switch (LOWORD(wParam)) {
         case kNewContainer:
           presenter->newContainer = isChecked(dialog, kNewContainer);

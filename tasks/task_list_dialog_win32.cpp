@@ -141,6 +141,7 @@ INT_PTR CALLBACK taskListProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) 
       initialise(dialog);
       return TRUE;
     case WM_COMMAND:
+      if (!gDialog.presenter) return FALSE;
       onCommand(dialog, LOWORD(wParam), HIWORD(wParam));
       return TRUE;
     case WM_CLOSE:

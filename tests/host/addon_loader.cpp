@@ -134,6 +134,8 @@ RecordedMail::~RecordedMail() { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", n
 
 std::string RecordedMail::text() const { return readWholeFile(path_); }
 
+void sendBarCommand(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
+
 std::string readWholeFile(const std::string& path) {
   std::ifstream in(path, std::ios::binary);
   std::stringstream text;

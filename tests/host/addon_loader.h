@@ -34,6 +34,9 @@ class LoadedAddon {
   Entry entry_ = nullptr;
 };
 
+// A command sent to the add-on's bar window, as its menus and the hooks send them.
+void sendBarCommand(UINT id);
+
 // The file's bytes; empty when it cannot be read.
 std::string readWholeFile(const std::string& path);
 

@@ -101,6 +101,28 @@ TEST_F(DeliveryToolTest, ToolDeliversAfterConfirmationAndMakeWritesClassFiles) {
   EXPECT_TRUE(watchdog.boxes().empty());
 }
 
+TEST_F(DeliveryToolTest, RefusedMailKeepsTheTaskNotesForTheNextDelivery) {
+  DeleteFileA((dir_ + "\\BIN\\APP.EXE").c_str());
+  SetEnvironmentVariableA("KESTO_TEST_MAPI_RESULT", "2");  // MAPI_E_FAILURE
+  MessageBoxWatchdog watchdog;
+  {
+    LoadedAddon addon(kAddon);
+    ASSERT_TRUE(addon.start(&ide_));
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+    ASSERT_EQ(ide_.tools.added.size(), 1u);
+    ModalDriver driver;
+    driver.dialogTitle = "Kesto Delivery";
+    driver.dialogButtons = {102};
+    ide_.tools.added[0].implementor->Execute(nullptr);
+    ide_.project.clients[0]->ProjectClosed();
+    addon.stop();
+  }
+  SetEnvironmentVariableA("KESTO_TEST_MAPI_RESULT", nullptr);
+  EXPECT_NE(mail_.text().find("subject: Delivery : "), std::string::npos) << "MAPI was asked";
+  EXPECT_EQ(readWholeFile(dir_ + "\\DEMO.IDE.tsk.txt"), "  NOTIFICATIONS FOR ENDED TASKS\n");
+  EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Kesto AddOn error: MAPI SendMail missed !"});
+}
+
 TEST(StatusProgressTest, BarFillsTheStatusWindowInProportionAndGoesAtTheEnd) {
   TestIde ide;
   HWND status = ide.windows.status;

@@ -15,8 +15,6 @@ namespace {
 
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 
-void command(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
-
 // The pages of the site in dir, each passed to onPage when given; their number.
 int forEachPage(const std::string& dir, void (*onPage)(const std::string& path) = nullptr) {
   WIN32_FIND_DATAA found;
@@ -65,13 +63,13 @@ TEST(CompletionKeyTest, CompletesTheWordBeforeTheCaretAndMovesTheCaret) {
   EXPECT_NE(ide.statusLine.texts.back().find("print, printf"), std::string::npos) << ide.statusLine.texts.back();
 
   buffer.column = 17;
-  command(102);
+  sendBarCommand(102);
   EXPECT_EQ(buffer.lines[1], "  print(1); private");
   EXPECT_EQ(ide.statusLine.texts.back(), "Completion done");
 
   buffer.column = 1;
   const size_t shown = ide.statusLine.texts.size();
-  command(102);
+  sendBarCommand(102);
   EXPECT_EQ(ide.statusLine.texts.size(), shown) << "nothing before the caret in column 1";
   addon.stop();
   EXPECT_TRUE(watchdog.boxes().empty());
@@ -93,15 +91,15 @@ TEST(DocumentationCommandsTest, GeneratesOnAWorkerThreadAndRefusesASecondRunMean
   ASSERT_TRUE(addon.start(&ide));
   ide.project.clients[0]->ProjectOpened(nullptr);
 
-  command(194);
+  sendBarCommand(194);
   ASSERT_TRUE(pumpUntil([&site] { return filesIn(site) > 0; }, 20000)) << "the site is being written";
-  command(194);
+  sendBarCommand(194);
   EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Warning: HTML generation in progress"});
   EXPECT_TRUE(pumpUntil([&site] { return filesIn(site) >= 5 + 2 * sources; }, 60000)) << filesIn(site);
   pumpMessages(500);  // the thread ends after its last page
 
   // The test prefix has no browser: the shell's failure names the page it was asked to open.
-  command(195);
+  sendBarCommand(195);
   ASSERT_FALSE(ide.statusLine.texts.empty());
   EXPECT_NE(ide.statusLine.texts.back().find(site + "\\Documentation DOCS.html: error"), std::string::npos)
       << ide.statusLine.texts.back();

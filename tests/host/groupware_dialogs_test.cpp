@@ -21,8 +21,6 @@ void remove(const std::string& path) {
   DeleteFileA(path.c_str());
 }
 
-void command(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
-
 class GroupwareDialogsTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -59,7 +57,7 @@ TEST_F(GroupwareDialogsTest, SendUnlocksAndMailsThenGetTakesTheAdvisedFiles) {
     driver.dialogTitle = "Groupware - Send files";
     driver.dialogScreenshot = "groupware-send";
     driver.dialogButtons = {104, 105, IDCANCEL};  // "Send && unlock" on every row, "SEND !", close
-    command(176);
+    sendBarCommand(176);
     EXPECT_EQ(driver.dialogList, std::vector<std::string>{"a.cpp\tNEW!\t "});
   }
   EXPECT_EQ(readWholeFile(server_ + "\\a.cpp"), "edited here");
@@ -72,7 +70,7 @@ TEST_F(GroupwareDialogsTest, SendUnlocksAndMailsThenGetTakesTheAdvisedFiles) {
     driver.dialogTitle = "Groupware - Get files";
     driver.dialogScreenshot = "groupware-get";
     driver.dialogButtons = {106, 105, IDCANCEL};  // "As advised", "GET !", close
-    command(175);
+    sendBarCommand(175);
     ASSERT_EQ(driver.dialogList.size(), 2u);
     EXPECT_EQ(driver.dialogList[1], "c.cpp\tNo\tNEW!\tRefresh\t ");
   }
@@ -101,7 +99,7 @@ TEST_F(GroupwareDialogsTest, AltOnAProjectFileAddsANodeBesideIt) {
       containerEnabled = IsWindowEnabled(GetDlgItem(dialog, 110)) != FALSE;
       SetDlgItemTextA(dialog, 102, "util");
     };
-    command(10000);
+    sendBarCommand(10000);
     EXPECT_FALSE(containerEnabled) << "the container waits for its check box";
   }
   keys[VK_MENU] = 0;

@@ -14,8 +14,6 @@ namespace {
 
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 
-void command(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
-
 std::string text(HWND window, int id) {
   char buffer[512] = {};
   GetDlgItemTextA(window, id, buffer, sizeof buffer);
@@ -70,7 +68,7 @@ TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed)
   pumpMessages(200);
   EXPECT_EQ(flashShown(), nullptr) << "no task, no automatic flash";
 
-  command(171);
+  sendBarCommand(171);
   HWND dialog = ownDialog("Task list");
   ASSERT_NE(dialog, nullptr);
   EXPECT_TRUE(listBoxRows(dialog, 103).empty());
@@ -102,7 +100,7 @@ TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed)
   pumpMessages(300);
   saveScreenshot("task-list");
 
-  command(171);
+  sendBarCommand(171);
   EXPECT_EQ(ownDialog("Task list"), dialog) << "one dialog however often it is asked for";
   SendMessageA(dialog, WM_CLOSE, 0, 0);
   EXPECT_EQ(ownDialog("Task list"), nullptr);
@@ -119,7 +117,7 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   LoadedAddon addon(kAddon);
   ASSERT_TRUE(addon.start(&ide_));
   ide_.project.clients[0]->ProjectOpened(nullptr);
-  command(171);
+  sendBarCommand(171);
   HWND dialog = ownDialog("Task list");
   ASSERT_NE(dialog, nullptr);
   pressButton(dialog, 109);
@@ -142,10 +140,10 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   reopenProject();
   EXPECT_EQ(flashShown(), nullptr) << "once a day";
 
-  command(173);
+  sendBarCommand(173);
   flash = flashShown();
   ASSERT_NE(flash, nullptr) << "on demand whatever the day";
-  command(173);
+  sendBarCommand(173);
   EXPECT_EQ(flashShown(), flash) << "a second showing keeps the window";
   ide_.project.clients[0]->ProjectClosed();
   addon.stop();
