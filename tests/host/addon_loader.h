@@ -59,9 +59,10 @@ class RecordedMail {
   std::string path_;
 };
 
-// Answers every message box of this process with its default button, from a
-// thread of its own, so that nothing modal can hang a test; each box is
-// recorded (and passed to onBox) as "CAPTION: TEXT".
+// Answers every message box of this process with its default button ("Yes" of
+// a question), from a thread of its own, so that nothing modal can hang a test;
+// each box is recorded (and passed to onBox) as "CAPTION: TEXT". The add-on's
+// own dialogs are left to the tests' ModalDriver.
 class MessageBoxWatchdog {
  public:
   using BoxListener = void (*)(const std::string& box);

@@ -67,10 +67,6 @@ TEST(CompletionKeyTest, CompletesTheWordBeforeTheCaretAndMovesTheCaret) {
   EXPECT_EQ(buffer.lines[1], "  print(1); private");
   EXPECT_EQ(ide.statusLine.texts.back(), "Completion done");
 
-  buffer.column = 1;
-  const size_t shown = ide.statusLine.texts.size();
-  sendBarCommand(102);
-  EXPECT_EQ(ide.statusLine.texts.size(), shown) << "nothing before the caret in column 1";
   addon.stop();
   EXPECT_TRUE(watchdog.boxes().empty());
 }
