@@ -8,6 +8,7 @@
 
 #include "addon_loader.h"
 #include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
 #include "ide/status_progress_win32.h"
 #include "ui_driver.h"
 
@@ -103,6 +104,7 @@ TEST_F(DeliveryToolTest, ToolDeliversAfterConfirmationAndMakeWritesClassFiles) {
 
 TEST_F(DeliveryToolTest, RefusedMailKeepsTheTaskNotesForTheNextDelivery) {
   DeleteFileA((dir_ + "\\BIN\\APP.EXE").c_str());
+  SettingsRegistry().write(std::string(SettingsStore::kAddOnRoot) + "\\Mail", "Control", "1");
   SetEnvironmentVariableA("KESTO_TEST_MAPI_RESULT", "2");  // MAPI_E_FAILURE
   MessageBoxWatchdog watchdog;
   {
@@ -119,6 +121,7 @@ TEST_F(DeliveryToolTest, RefusedMailKeepsTheTaskNotesForTheNextDelivery) {
   }
   SetEnvironmentVariableA("KESTO_TEST_MAPI_RESULT", nullptr);
   EXPECT_NE(mail_.text().find("subject: Delivery : "), std::string::npos) << "MAPI was asked";
+  EXPECT_NE(mail_.text().find("\nflags: 9\n"), std::string::npos) << "Control asks for MAPI's dialog";
   EXPECT_EQ(readWholeFile(dir_ + "\\DEMO.IDE.tsk.txt"), "  NOTIFICATIONS FOR ENDED TASKS\n");
   EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Kesto AddOn error: MAPI SendMail missed !"});
 }
