@@ -49,6 +49,15 @@ class TaskWindowsTest : public ::testing::Test {
     ide_.nodeOptions.projectOptions["Kesto_MAIL_PJ_0"] = std::string("+team\0", 6);
   }
 
+  // The add-on started with the project open; the task list shown.
+  HWND startWithTaskList() {
+    if (!addon_.start(&ide_)) return nullptr;
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+    pumpMessages(200);
+    sendBarCommand(171);
+    return ownDialog("Task list");
+  }
+
   void reopenProject() {
     ide_.project.clients[0]->ProjectClosed();
     ide_.project.clients[0]->ProjectOpened(nullptr);
@@ -58,19 +67,14 @@ class TaskWindowsTest : public ::testing::Test {
   std::string project_;
   TestIde ide_;
   RecordedMail mail_{"task-mail.log"};
+  MessageBoxWatchdog watchdog_;
+  LoadedAddon addon_{kAddon};  // unloaded first, before the IDE's windows go
 };
 
 TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed) {
-  MessageBoxWatchdog watchdog;
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
-  ide_.project.clients[0]->ProjectOpened(nullptr);
-  pumpMessages(200);
-  EXPECT_EQ(flashShown(), nullptr) << "no task, no automatic flash";
-
-  sendBarCommand(171);
-  HWND dialog = ownDialog("Task list");
+  HWND dialog = startWithTaskList();
   ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(flashShown(), nullptr) << "no task, no automatic flash";
   EXPECT_TRUE(listBoxRows(dialog, 103).empty());
   EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, 121))) << "nothing to edit in an empty list";
 
@@ -107,18 +111,13 @@ TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed)
   EXPECT_NE(GetFileAttributesA((project_ + ".tsk").c_str()), INVALID_FILE_ATTRIBUTES) << "saved when closed";
 
   ide_.project.clients[0]->ProjectClosed();
-  addon.stop();
-  ASSERT_EQ(watchdog.boxes().size(), 1u);
-  EXPECT_EQ(watchdog.boxes()[0], "Warning: Remove New task ?");
+  addon_.stop();
+  ASSERT_EQ(watchdog_.boxes().size(), 1u);
+  EXPECT_EQ(watchdog_.boxes()[0], "Warning: Remove New task ?");
 }
 
 TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) {
-  MessageBoxWatchdog watchdog;
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide_));
-  ide_.project.clients[0]->ProjectOpened(nullptr);
-  sendBarCommand(171);
-  HWND dialog = ownDialog("Task list");
+  HWND dialog = startWithTaskList();
   ASSERT_NE(dialog, nullptr);
   pressButton(dialog, 109);
   SendMessageA(dialog, WM_CLOSE, 0, 0);
@@ -146,9 +145,9 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   sendBarCommand(173);
   EXPECT_EQ(flashShown(), flash) << "a second showing keeps the window";
   ide_.project.clients[0]->ProjectClosed();
-  addon.stop();
+  addon_.stop();
   EXPECT_EQ(flashShown(), nullptr) << "the add-on takes its windows with it";
-  EXPECT_TRUE(watchdog.boxes().empty());
+  EXPECT_TRUE(watchdog_.boxes().empty());
 }
 
 }  // namespace
