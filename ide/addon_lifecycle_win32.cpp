@@ -13,6 +13,7 @@
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "groupware/groupware_settings.h"
+#include "html/ht_thread_win32.h"
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
@@ -208,6 +209,7 @@ const Step kShutdown[] = {
     {"delete the groupware settings",
      [](IIdeRoot*) { saveAndDestroy(addon().groupware, &GroupwareSettings::save); }},
     {"delete the HTML settings", nullptr},
+    {"wait for a running documentation generation", [](IIdeRoot*) { waitForHtmlGeneration(); }},
     {"delete the groupware project object", nullptr},
     {"destroy the bar window", destroyBar},
     {"unregister the project clients",

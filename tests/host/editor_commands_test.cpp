@@ -99,8 +99,11 @@ TEST(DocumentationCommandsTest, GeneratesOnAWorkerThreadAndRefusesASecondRunMean
   ASSERT_FALSE(ide.statusLine.texts.empty());
   EXPECT_NE(ide.statusLine.texts.back().find(site + "\\Documentation DOCS.html: error"), std::string::npos)
       << ide.statusLine.texts.back();
+  removePages(site);
+  sendBarCommand(194);
   ide.project.clients[0]->ProjectClosed();
   addon.stop();
+  EXPECT_EQ(filesIn(site), 5 + 2 * sources) << "the add-on waits for its generation before it goes";
   EXPECT_EQ(watchdog.boxes().size(), 1u);
 }
 
