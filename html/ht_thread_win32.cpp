@@ -16,6 +16,13 @@ struct Job {
   std::string name;
 };
 
+struct HandleCloser {
+  void operator()(HANDLE handle) const { CloseHandle(handle); }
+};
+
+// The last generation's thread, kept until the next one starts or shutdown waits for it.
+std::unique_ptr<void, HandleCloser> gThread;
+
 DWORD WINAPI generate(LPVOID parameter) {
   std::unique_ptr<Job> job(static_cast<Job*>(parameter));
   htGenerationResult result;
@@ -32,5 +39,10 @@ void startHtmlGenerationThread(const std::string& directory, const std::string& 
   HANDLE thread = CreateThread(nullptr, 0, generate, job.get(), 0, nullptr);
   if (!thread) return;
   job.release();  // the thread owns it now
-  CloseHandle(thread);
+  gThread.reset(thread);
+}
+
+void waitForHtmlGeneration() {
+  if (gThread) WaitForSingleObject(gThread.get(), INFINITE);
+  gThread.reset();
 }

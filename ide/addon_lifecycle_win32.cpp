@@ -13,6 +13,7 @@
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "groupware/groupware_settings.h"
+#include "html/ht_thread_win32.h"
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/bar_window_win32.h"
@@ -24,7 +25,9 @@
 #include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
+#include "tasks/flash_window_win32.h"
 #include "tasks/task_list.h"
+#include "tasks/task_list_dialog_win32.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_win32.h"
 
@@ -206,10 +209,17 @@ const Step kShutdown[] = {
      }},
     {"release the status line service", [](IIdeRoot*) { destroy(addon().statusLine); }},
     {"delete the tool table", [](IIdeRoot*) { destroy(addon().tools); }},
-    {"save the tasks and delete the task manager",
-     [](IIdeRoot*) { saveAndDestroy(addon().tasks, &TaskList::saveSettings); }},
-    {"delete the groupware settings", [](IIdeRoot*) { saveAndDestroy(addon().groupware, &GroupwareSettings::save); }},
+    {"close the task windows, save the tasks and delete the task manager",
+     [](IIdeRoot*) {
+       // Their window procedures leave with the DLL.
+       if (HWND dialog = taskListDialog()) DestroyWindow(dialog);
+       if (HWND flash = flashWindow()) DestroyWindow(flash);
+       saveAndDestroy(addon().tasks, &TaskList::saveSettings);
+     }},
+    {"delete the groupware settings",
+     [](IIdeRoot*) { saveAndDestroy(addon().groupware, &GroupwareSettings::save); }},
     {"delete the HTML settings", nullptr},
+    {"wait for a running documentation generation", [](IIdeRoot*) { waitForHtmlGeneration(); }},
     {"delete the groupware project object", nullptr},
     {"destroy the bar window", destroyBar},
     {"unregister the project clients",

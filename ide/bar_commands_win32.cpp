@@ -2,6 +2,7 @@
 #include "ide/bar_commands_win32.h"
 
 #include "ide/addon_slots_win32.h"
+#include "ide/feature_commands_win32.h"
 #include "ide/general_behaviours_win32.h"
 #include "ide/project_client_win32.h"
 #include "ide/hook_set_win32.h"
@@ -30,6 +31,24 @@ bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
       return true;
     case BarCommand::PaintButtons:
       return paintButtonsCommand(bar, id, lParam);
+    case BarCommand::ActiveEditorTitle:
+      completionKeyCommand();
+      return true;
+    case BarCommand::Tasks:
+      taskCommand(id);
+      return true;
+    case BarCommand::GroupwareGet:
+      groupwareGetCommand();
+      return true;
+    case BarCommand::GroupwareSend:
+      groupwareSendCommand();
+      return true;
+    case BarCommand::GenerateHtml:
+      generateHtmlCommand();
+      return true;
+    case BarCommand::OpenHtml:
+      openHtmlCommand();
+      return true;
     case BarCommand::TitleBarPopup:
       return id == kEditDocumentationId ? editDocumentationCommand(bar, id, lParam)
                                         : titleBarPopupCommand(bar, id, lParam);

@@ -6,6 +6,7 @@
 #include <map>
 #include <vector>
 
+#include "delivery/mapi_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_services_win32.h"
 #include "ide/status_progress_win32.h"
@@ -118,9 +119,9 @@ class IdeHost : public Host {
     return found ? static_cast<int>(tools->RunTool(found, path.get())) : -1;
   }
 
-  MailResult sendMail(const MailMessage&, std::string* err) override {
-    if (err) *err = "no mail transport in this build";
-    return MailResult::TransportMissing;
+  // The active window (a dialog when one sends) parents any dialog of the mail system.
+  MailResult sendMail(const MailMessage& message, std::string* err) override {
+    return sendMapiMail(GetActiveWindow(), message, err);
   }
 
  private:

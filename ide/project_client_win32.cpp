@@ -21,7 +21,10 @@
 #include "ide/make_sequence.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_win32.h"
+#include "tasks/flash.h"
+#include "tasks/project_files.h"
 #include "tasks/task_list.h"
+#include "tasks/task_list_dialog_win32.h"
 
 namespace {
 
@@ -77,6 +80,8 @@ void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
 
 void __stdcall ProjectClientImpl::ProjectClosed() {
   if (addon().topBar) addon().topBar->collapse();
+  // The dialog saves its changes into the closing project's task file.
+  if (HWND dialog = taskListDialog()) DestroyWindow(dialog);
   if (!gOpenProject) return;
   unregisterMakeClient();
   if (addon().delivTool) addon().delivTool->unregisterTool();
@@ -94,6 +99,9 @@ void readOpenProject(const std::string& projectFile) {
   if (addon().tasks) {
     addon().tasks->filePath = projectFile + ".tsk";
     addon().tasks->load();
+    // The report is built once the project has finished opening.
+    if (addon().bar && shouldFlashAtProjectOpen(*addon().tasks, flashMarkerPath(projectFile)))
+      PostMessageA(addon().bar, WM_COMMAND, kAutomaticFlashCommand, 0);
   }
   std::string directory = directoryOf(projectFile);
   os().setCurrentDirectory(directory.empty() ? os().currentDirectory() : directory, nullptr);

@@ -33,6 +33,8 @@ enum class BarCommand {
 };
 
 constexpr uint32_t kRebuildMenuCommand = 103;
+constexpr uint32_t kTaskListCommand = 171;
+constexpr uint32_t kAutomaticFlashCommand = 172;  // posted when a project opens on a new day
 
 struct BarCommandEntry {
   uint32_t first;

@@ -3,6 +3,7 @@
 
 #include "foundation/alert.h"
 #include "foundation/settings.h"
+#include "groupware/quick_add_dialog_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_host_win32.h"
 #include "ide/ide_windows_win32.h"
@@ -129,7 +130,8 @@ std::string TopBar::projectFileName(uint32_t n) const {
 void TopBar::runProjectFile(uint32_t index) {
   if (index >= menu_.projectFiles.size()) return ideHost().showStatus("Internal error: not enough files");
   const bool alt = GetKeyState(VK_MENU) & 0x8000;
-  const bool remove = (GetKeyState(VK_CONTROL) & 0x8000) && !alt;
+  const bool control = GetKeyState(VK_CONTROL) & 0x8000;
+  const bool remove = control && !alt;
   // Asked first: the question's message loop may read the project again.
   if (remove && alert("Okay to remove\n" + projectFileName(index) + " ?", "Confirmation", kAlertYesNo) != kAnswerYes)
     return;
@@ -137,6 +139,11 @@ void TopBar::runProjectFile(uint32_t index) {
   const ProjectNode* root = ideHost().projectRoot();
   const ProjectNode* node = root ? sameNodeIn(project_, *menu_.projectFiles[index], *root) : nullptr;
   if (!node) return ideHost().showStatus("Internal error: bad file");
+  if (alt && !control) {
+    HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
+    if (runQuickAddDialog(instance, ideFrame(), ideHost(), *root, *node)) rebuildMenu();
+    return;
+  }
   if (!remove) return runNodeTool(*node);
   if (removeIdeProjectNode(*node)) rebuildMenu();
 }

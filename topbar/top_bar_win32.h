@@ -56,7 +56,8 @@ class TopBar {
   const RecentFiles& recent() const;
   // Project file n as the status line and the questions name it.
   std::string projectFileName(uint32_t n) const;
-  // Opens project file n, or with Ctrl alone removes it from the project.
+  // Opens project file n; with Alt alone offers Quick add beside it, with Ctrl
+  // alone removes it from the project.
   void runProjectFile(uint32_t index);
 
   HWND bar_;

@@ -1,6 +1,18 @@
 // Loading the add-on and answering its message boxes.
 #include "addon_loader.h"
 
+#include <fstream>
+#include <sstream>
+
+std::string testFolder(const std::string& name) {
+  char program[MAX_PATH] = {};
+  GetModuleFileNameA(nullptr, program, sizeof program);
+  std::string folder(program);
+  folder = folder.substr(0, folder.rfind('\\') + 1) + name;
+  CreateDirectoryA(folder.c_str(), nullptr);
+  return folder;
+}
+
 std::string windowsPath(std::string path) {
   for (char& c : path)
     if (c == '/') c = '\\';
@@ -52,16 +64,38 @@ std::vector<std::string> MessageBoxWatchdog::boxes() {
 
 namespace {
 
-// The box's default push button, else its first button.
-int defaultButton(HWND box) {
-  int first = 0;
-  for (int id : {IDOK, IDYES, IDNO, IDCANCEL, IDABORT, IDRETRY, IDIGNORE}) {
-    HWND button = GetDlgItem(box, id);
-    if (!button) continue;
-    if ((GetWindowLongA(button, GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON) return id;
-    if (!first) first = id;
+BOOL CALLBACK findOtherControl(HWND control, LPARAM found) {
+  const int id = GetDlgCtrlID(control);
+  // A box holds its buttons (IDOK to IDCONTINUE), its text (0xFFFF) and its icon (20, or 0x440 in Wine).
+  if ((id < IDOK || id > 11) && id != 0xFFFF && id != 20 && id != 0x440) {
+    *reinterpret_cast<bool*>(found) = true;
+    return FALSE;
   }
-  return first ? first : IDOK;
+  return TRUE;
+}
+
+// The add-on's own dialogs are the tests' to drive; only message boxes are answered here.
+bool isMessageBox(HWND dialog) {
+  bool other = false;
+  EnumChildWindows(dialog, findOtherControl, reinterpret_cast<LPARAM>(&other));
+  return !other;
+}
+
+BOOL CALLBACK findDefaultButton(HWND control, LPARAM found) {
+  char windowClass[16] = {};
+  GetClassNameA(control, windowClass, sizeof windowClass);
+  if (lstrcmpiA(windowClass, "Button") != 0) return TRUE;
+  int* id = reinterpret_cast<int*>(found);
+  const bool isDefault = (GetWindowLongA(control, GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON;
+  if (*id == 0 || isDefault) *id = GetDlgCtrlID(control);
+  return !isDefault;
+}
+
+// The box's default button: the one so styled, else its first ("Yes" of "Yes" and "No").
+int defaultButton(HWND box) {
+  int id = 0;
+  EnumChildWindows(box, findDefaultButton, reinterpret_cast<LPARAM>(&id));
+  return id != 0 ? id : IDOK;
 }
 
 }  // namespace
@@ -71,10 +105,8 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   GetWindowThreadProcessId(window, &process);
   char windowClass[16] = {};
   GetClassNameA(window, windowClass, sizeof windowClass);
-  // A message box is a dialog with its text in control 0xFFFF; the add-on's
-  // other dialogs are driven by the tests themselves.
   if (process != GetCurrentProcessId() || std::string(windowClass) != "#32770" || !IsWindowVisible(window) ||
-      !GetDlgItem(window, 0xFFFF))
+      !isMessageBox(window))
     return TRUE;
   char caption[256] = {};
   char text[1024] = {};
@@ -93,4 +125,22 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   ShowWindow(window, SW_HIDE);
   PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(button ? button : defaultButton(window)), 0);
   return TRUE;
+}
+
+RecordedMail::RecordedMail(const std::string& name) : path_(testFolder("mail") + "\\" + name) {
+  DeleteFileA(path_.c_str());
+  SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", path_.c_str());
+}
+
+RecordedMail::~RecordedMail() { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", nullptr); }
+
+std::string RecordedMail::text() const { return readWholeFile(path_); }
+
+void sendBarCommand(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
+
+std::string readWholeFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::stringstream text;
+  text << in.rdbuf();
+  return text.str();
 }

@@ -34,9 +34,35 @@ class LoadedAddon {
   Entry entry_ = nullptr;
 };
 
-// Answers every message box of this process with its default button, from a
-// thread of its own, so that nothing modal can hang a test; each box is
-// recorded (and passed to onBox) as "CAPTION: TEXT".
+// A command sent to the add-on's bar window, as its menus and the hooks send them.
+void sendBarCommand(UINT id);
+
+// The file's bytes; empty when it cannot be read.
+std::string readWholeFile(const std::string& path);
+
+// A folder beside the test program, made when missing. Tests do not build on
+// the current directory: the add-on moves it to each project it opens.
+std::string testFolder(const std::string& name);
+
+// The mail the tests' MAPI32.DLL records while this lives, into the file name
+// under testFolder("mail"): one record per message ("subject:", "flags:",
+// "owner:", "to:" lines, then the note).
+class RecordedMail {
+ public:
+  explicit RecordedMail(const std::string& name);
+  ~RecordedMail();
+  RecordedMail(const RecordedMail&) = delete;
+  RecordedMail& operator=(const RecordedMail&) = delete;
+  std::string text() const;
+
+ private:
+  std::string path_;
+};
+
+// Answers every message box of this process with its default button ("Yes" of
+// a question), from a thread of its own, so that nothing modal can hang a test;
+// each box is recorded (and passed to onBox) as "CAPTION: TEXT". The add-on's
+// own dialogs are left to the tests' ModalDriver.
 class MessageBoxWatchdog {
  public:
   using BoxListener = void (*)(const std::string& box);

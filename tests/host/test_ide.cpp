@@ -1,6 +1,8 @@
 // The test IDE's interfaces and windows.
 #include "test_ide.h"
 
+#include <commctrl.h>
+
 #include <cstdio>
 #include <cstring>
 
@@ -296,6 +298,10 @@ TestIdeWindows::TestIdeWindows() {
   CLIENTCREATESTRUCT documentsCreate = {};
   documents = CreateWindowExA(0, "MDIClient", nullptr, WS_CHILD | WS_CLIPCHILDREN | WS_VISIBLE, 0, 0, 800, 500, frame,
                               nullptr, GetModuleHandleA(nullptr), &documentsCreate);
+  INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES};
+  InitCommonControlsEx(&controls);
+  status = CreateWindowExA(0, STATUSCLASSNAMEA, "Ready", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, frame, nullptr,
+                           GetModuleHandleA(nullptr), nullptr);
   project = createChild(documents, "BCW5Project", "Project : c:\\projects\\demo\\demo.ide");
   messages = createChild(documents, "BCW5Message", "Message");
 }

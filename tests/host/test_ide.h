@@ -187,7 +187,7 @@ class TestTools : public Counted<IIdeTools> {
   std::vector<Added> added;  // in the order added; deleted ones stay with a null implementor
 };
 
-// The IDE's frame, document area and editor, project and message windows.
+// The IDE's frame, document area, status window and editor, project and message windows.
 class TestIdeWindows {
  public:
   TestIdeWindows();
@@ -199,6 +199,7 @@ class TestIdeWindows {
   HWND openEditor(const std::string& title, const std::string& text = "");
   HWND frame = nullptr;
   HWND documents = nullptr;
+  HWND status = nullptr;  // "msctls_statusbar32", where long copies draw their progress
   HWND project = nullptr;
   HWND messages = nullptr;
 };

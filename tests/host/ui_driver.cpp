@@ -93,6 +93,29 @@ void pressKey(WORD virtualKey, bool ctrl, bool shift) {
   send(inputs.data(), static_cast<UINT>(inputs.size()));
 }
 
+void pressButton(HWND dialog, int id) {
+  SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, id)));
+}
+
+HWND ownDialog(const std::string& caption) {
+  HWND dialog = FindWindowA("#32770", caption.c_str());
+  DWORD process = 0;
+  GetWindowThreadProcessId(dialog, &process);
+  return dialog && process == GetCurrentProcessId() && IsWindowVisible(dialog) ? dialog : nullptr;
+}
+
+std::vector<std::string> listBoxRows(HWND dialog, int id) {
+  std::vector<std::string> rows;
+  const int count = static_cast<int>(SendDlgItemMessageA(dialog, id, LB_GETCOUNT, 0, 0));
+  for (int i = 0; i < count; ++i) {
+    std::string row(static_cast<size_t>(SendDlgItemMessageA(dialog, id, LB_GETTEXTLEN, i, 0)) + 1, '\0');
+    row.resize(static_cast<size_t>(
+        SendDlgItemMessageA(dialog, id, LB_GETTEXT, i, reinterpret_cast<LPARAM>(&row[0]))));
+    rows.push_back(row);
+  }
+  return rows;
+}
+
 bool saveScreenshot(const std::string& name) {
   // Wine starts Unix programs too: the X server's own picture of the screen,
   // read from the root window alone (reading window by window fails when one
@@ -149,7 +172,7 @@ void ModalDriver::onTick() {
   } else if (menuTicks_ > 0) {
     menuTicks_ = 0;
   }
-  if (HWND dialog = ownWindow("#32770")) {
+  if (HWND dialog = findDialog()) {
     driveDialog(dialog);
   } else {
     dialogTicks_ = 0;
@@ -194,6 +217,8 @@ void ModalDriver::driveMenu(HWND menuWindow) {
   }
 }
 
+HWND ModalDriver::findDialog() const { return dialogTitle.empty() ? ownWindow("#32770") : ownDialog(dialogTitle); }
+
 void ModalDriver::driveDialog(HWND dialog) {
   const int tick = ++dialogTicks_;
   if (tick == 1) {
@@ -203,17 +228,29 @@ void ModalDriver::driveDialog(HWND dialog) {
     GetDlgItemTextA(dialog, 101, text, sizeof text);
     dialogFirstText = text;
     HWND list = GetDlgItem(dialog, 101);
-    const int count = static_cast<int>(SendMessageA(list, CB_GETCOUNT, 0, 0));
+    char listClass[32] = {};
+    GetClassNameA(list, listClass, sizeof listClass);
+    const bool isListBox = lstrcmpiA(listClass, "ListBox") == 0;
+    if (isListBox) dialogList = listBoxRows(dialog, 101);
+    const int count = isListBox ? 0 : static_cast<int>(SendMessageA(list, CB_GETCOUNT, 0, 0));
     for (int i = 0; i < count; ++i) {
       char entry[256] = {};
       SendMessageA(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(entry));
       dialogList.push_back(entry);
     }
-    SetDlgItemTextA(dialog, 101, dialogText.c_str());
+    if (!dialogText.empty()) SetDlgItemTextA(dialog, 101, dialogText.c_str());
+    if (onDialog) onDialog(dialog);
     return;
   }
   if (tick == 4 && !dialogScreenshot.empty()) saveScreenshot(dialogScreenshot);
-  if (tick == 6) PostMessageA(dialog, WM_COMMAND, cancelDialog ? IDCANCEL : IDOK, 0);
+  // A press may open a message box: the next one waits a few ticks for it to be answered.
+  const size_t press = tick >= 6 && tick % 4 == 2 ? static_cast<size_t>((tick - 6) / 4) : dialogButtons.size();
+  if (press < dialogButtons.size()) {
+    const int button = dialogButtons[press];
+    // Posted: the dialog's modal loop must not run inside this timer.
+    PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(dialog, button)));
+  }
   if (tick > kWatchdogTicks) {
     ++watchdogFired;
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);

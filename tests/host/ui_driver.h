@@ -20,6 +20,13 @@ void clickAt(POINT point, bool rightButton = false);
 // A key stroke, with Ctrl and Shift held around it when asked.
 void pressKey(WORD virtualKey, bool ctrl = false, bool shift = false);
 
+// A click on a dialog's button, as its command reaches the dialog (at once, sent).
+void pressButton(HWND dialog, int id);
+// The visible top-level window of this process with that caption; null when none.
+HWND ownDialog(const std::string& caption);
+// The rows of a dialog's list box.
+std::vector<std::string> listBoxRows(HWND dialog, int id);
+
 // The screen as a PNG file named name under the screenshot folder; false when it could not be taken.
 bool saveScreenshot(const std::string& name);
 
@@ -45,16 +52,20 @@ class ModalDriver {
   std::vector<uint32_t> choices;
   bool openFirstSubmenu = false;
   std::string menuScreenshot;
-  // The plan for dialogs: the text typed into control 101, then OK (or Cancel).
+  // The plan for dialogs: only the one captioned dialogTitle (any when empty);
+  // the text typed into control 101, then onDialog to read or set its other
+  // controls, the screenshot, and the buttons pressed in turn a few ticks apart.
+  std::string dialogTitle;
   std::string dialogText;
-  bool cancelDialog = false;
+  std::function<void(HWND dialog)> onDialog;
   std::string dialogScreenshot;
+  std::vector<int> dialogButtons = {IDOK};
 
   // What was seen.
   std::vector<std::string> menus;     // each popup's description
   std::string dialogCaption;
   std::string dialogFirstText;        // control 101's text when the dialog opened
-  std::vector<std::string> dialogList;  // control 101's list
+  std::vector<std::string> dialogList;  // control 101's list, a combo box's or a list box's
   int watchdogFired = 0;
 
  private:
@@ -62,6 +73,8 @@ class ModalDriver {
   void onTick();
   void driveMenu(HWND menuWindow);
   void driveDialog(HWND dialog);
+
+  HWND findDialog() const;
 
   static ModalDriver* active_;
   UINT_PTR timer_ = 0;

@@ -1,0 +1,13 @@
+// The groupware send and get dialogs: modal views over their presenters.
+#pragma once
+
+#include <windows.h>
+
+#include "delivery/mail.h"
+#include "groupware/groupware_settings.h"
+#include "ide/host.h"
+
+// Each shows the box that asks for a server directory when the project has
+// none; otherwise runs its dialog until the user closes it.
+void runGroupwareSendDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings);
+void runGroupwareGetDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings);

@@ -1,0 +1,16 @@
+// The bar's commands that open the features' windows or start their work:
+// tasks and flash, groupware send and get, the documentation, the completion key.
+#pragma once
+
+#include <windows.h>
+
+// 171 task list, 172 automatic flash, 173 flash on demand.
+void taskCommand(UINT id);
+// 175 and 176.
+void groupwareGetCommand();
+void groupwareSendCommand();
+// 194 and 195; nothing without an open project.
+void generateHtmlCommand();
+void openHtmlCommand();
+// 102: completes the word before the caret of the active editor.
+void completionKeyCommand();

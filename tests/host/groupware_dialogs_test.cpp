@@ -1,0 +1,116 @@
+// The groupware send and get dialogs and the quick add dialog in the IDE: the
+// buttons act on the files, the send's report is mailed, and Alt on a project
+// file adds a node beside it.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <string>
+
+#include "addon_loader.h"
+#include "foundation/settings.h"
+#include "ui_driver.h"
+
+namespace {
+
+const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
+
+bool readOnly(const std::string& path) { return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_READONLY) != 0; }
+
+void remove(const std::string& path) {
+  SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  DeleteFileA(path.c_str());
+}
+
+class GroupwareDialogsTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+    project_ = testFolder("gw-project");
+    server_ = testFolder("gw-server");
+    for (const std::string& dir : {project_, server_})
+      for (const char* name : {"\\a.cpp", "\\c.cpp"}) remove(dir + name);
+    std::ofstream(project_ + "\\a.cpp") << "edited here";
+    std::ofstream(server_ + "\\c.cpp") << "from a colleague";
+    ide_.project.projectFile = project_ + "\\DEMO.IDE";
+    const IdeHandle top = ide_.project.addNode(0, "demo.ide", ".ide");
+    const IdeHandle target = ide_.project.addNode(top, "demo.exe", ".exe");
+    ide_.project.addNode(target, "a.cpp", ".cpp");
+    auto& options = ide_.nodeOptions.projectOptions;
+    options["KestoGroupwareServer"] = "~" + server_ + std::string(1, '\0');
+    options["Kesto_NB_MAIL"] = std::string("\x01\0\0\0", 4);
+    options["Kesto_MAIL_PJ_0"] = std::string("+team\0", 6);
+  }
+
+  std::string project_;
+  std::string server_;
+  TestIde ide_;
+  RecordedMail mail_{"groupware-mail.log"};
+};
+
+TEST_F(GroupwareDialogsTest, SendUnlocksAndMailsThenGetTakesTheAdvisedFiles) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  {
+    ModalDriver driver;
+    driver.dialogTitle = "Groupware - Send files";
+    driver.dialogScreenshot = "groupware-send";
+    driver.dialogButtons = {104, 105, IDCANCEL};  // "Send && unlock" on every row, "SEND !", close
+    sendBarCommand(176);
+    EXPECT_EQ(driver.dialogList, std::vector<std::string>{"a.cpp\tNEW!\t "});
+  }
+  EXPECT_EQ(readWholeFile(server_ + "\\a.cpp"), "edited here");
+  EXPECT_TRUE(readOnly(project_ + "\\a.cpp")) << "sent and unlocked: no longer ours to edit";
+  EXPECT_EQ(mail_.text(),
+            "subject: Groupware SEND : project DEMO\nflags: 1\nowner: yes\nto: [1 team]\n"
+            "note:\na.cpp is delivered and unlocked\n\n.end\n");
+  {
+    ModalDriver driver;
+    driver.dialogTitle = "Groupware - Get files";
+    driver.dialogScreenshot = "groupware-get";
+    driver.dialogButtons = {106, 105, IDCANCEL};  // "As advised", "GET !", close
+    sendBarCommand(175);
+    ASSERT_EQ(driver.dialogList.size(), 2u);
+    EXPECT_EQ(driver.dialogList[1], "c.cpp\tNo\tNEW!\tRefresh\t ");
+  }
+  EXPECT_EQ(readWholeFile(project_ + "\\c.cpp"), "from a colleague");
+  EXPECT_EQ(mail_.text().find("GET"), std::string::npos) << "no mail after a get by default";
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(GroupwareDialogsTest, AltOnAProjectFileAddsANodeBesideIt) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  BYTE keys[256] = {};
+  GetKeyboardState(keys);
+  keys[VK_MENU] = 0x80;
+  SetKeyboardState(keys);
+  {
+    ModalDriver driver;
+    driver.dialogTitle = "Quick add node...";
+    driver.dialogScreenshot = "quick-add";
+    bool containerEnabled = true;
+    driver.onDialog = [&containerEnabled](HWND dialog) {
+      containerEnabled = IsWindowEnabled(GetDlgItem(dialog, 110)) != FALSE;
+      SetDlgItemTextA(dialog, 102, "util");
+    };
+    sendBarCommand(10000);
+    EXPECT_FALSE(containerEnabled) << "the container waits for its check box";
+  }
+  keys[VK_MENU] = 0;
+  SetKeyboardState(keys);
+  ASSERT_EQ(ide_.project.nodes.size(), 4u);
+  EXPECT_EQ(ide_.project.nodes[3].name, "util.cpp");
+  EXPECT_EQ(ide_.project.nodes[3].parent, 2u) << "beside a.cpp, under its target";
+  EXPECT_TRUE(ide_.tools.runs.empty()) << "Alt adds instead of opening the file";
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+}  // namespace

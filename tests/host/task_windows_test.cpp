@@ -1,0 +1,153 @@
+// The task list dialog and the Flash window in the IDE: the dialog's commands,
+// the mail of an ended public task, one dialog however often it is asked for,
+// and the flash shown once on the first opening of a day.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "addon_loader.h"
+#include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
+#include "ui_driver.h"
+
+namespace {
+
+const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
+
+std::string text(HWND window, int id) {
+  char buffer[512] = {};
+  GetDlgItemTextA(window, id, buffer, sizeof buffer);
+  return buffer;
+}
+
+HWND flashShown() {
+  HWND found = nullptr;
+  EnumThreadWindows(
+      GetCurrentThreadId(),
+      [](HWND window, LPARAM found) {
+        char title[128] = {};
+        GetWindowTextA(window, title, sizeof title);
+        if (IsWindowVisible(window) && std::string(title).rfind("Flash : ", 0) == 0)
+          *reinterpret_cast<HWND*>(found) = window;
+        return TRUE;
+      },
+      reinterpret_cast<LPARAM>(&found));
+  return found;
+}
+
+class TaskWindowsTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+    // Ended public tasks are mailed at once.
+    SettingsRegistry().write(std::string(SettingsStore::kAddOnRoot) + "\\Tasks", "KeyIsDelivery", "0");
+    project_ = testFolder("task-windows") + "\\DEMO.IDE";
+    for (const char* suffix : {".tsk", ".fltme", ".tsk.txt"}) DeleteFileA((project_ + suffix).c_str());
+    ide_.project.projectFile = project_;
+    ide_.project.addNode(0, "demo.exe", "AppExpert");
+    ide_.nodeOptions.projectOptions["Kesto_NB_MAIL"] = std::string("\x01\0\0\0", 4);
+    ide_.nodeOptions.projectOptions["Kesto_MAIL_PJ_0"] = std::string("+team\0", 6);
+  }
+
+  // The add-on started with the project open; the task list shown.
+  HWND startWithTaskList() {
+    if (!addon_.start(&ide_)) return nullptr;
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+    pumpMessages(200);
+    sendBarCommand(171);
+    return ownDialog("Task list");
+  }
+
+  void reopenProject() {
+    ide_.project.clients[0]->ProjectClosed();
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+    pumpMessages(300);
+  }
+
+  std::string project_;
+  TestIde ide_;
+  RecordedMail mail_{"task-mail.log"};
+  MessageBoxWatchdog watchdog_;
+  LoadedAddon addon_{kAddon};  // unloaded first, before the IDE's windows go
+};
+
+TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  EXPECT_EQ(flashShown(), nullptr) << "no task, no automatic flash";
+  EXPECT_TRUE(listBoxRows(dialog, 103).empty());
+  EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, 121))) << "nothing to edit in an empty list";
+
+  pressButton(dialog, 109);
+  ASSERT_EQ(listBoxRows(dialog, 103).size(), 1u);
+  EXPECT_EQ(text(dialog, 104), "to &Do : 1");
+  EXPECT_EQ(text(dialog, 111), "New task");
+  SetDlgItemTextA(dialog, 111, "Ship it");
+  CheckDlgButton(dialog, 113, BST_CHECKED);
+  SendDlgItemMessageA(dialog, 115, CB_SETCURSEL, 3, 0);
+  pressButton(dialog, 121);
+  EXPECT_EQ(text(dialog, 107), "&Ended: 1");
+  EXPECT_EQ(listBoxRows(dialog, 103)[0].rfind("Ship it\tBug\tENDED\t", 0), 0u) << listBoxRows(dialog, 103)[0];
+  EXPECT_EQ(mail_.text(),
+            "subject: End of task \"Ship it\" (project DEMO)\nflags: 1\nowner: yes\nto: [1 team]\n"
+            "note:\nSomething to do\n.end\n");
+  EXPECT_FALSE(IsWindowEnabled(GetDlgItem(dialog, 110))) << "an ended task is read-only";
+
+  // A task for today's flash, and one removed again.
+  pressButton(dialog, 109);
+  pressButton(dialog, 109);
+  ASSERT_EQ(listBoxRows(dialog, 103).size(), 3u);
+  pressButton(dialog, 110);
+  EXPECT_EQ(listBoxRows(dialog, 103).size(), 2u) << "removed on Yes";
+  SendDlgItemMessageA(dialog, 116, BM_CLICK, 0, 0);
+  EXPECT_EQ(listBoxRows(dialog, 103)[1].rfind("Ship it", 0), 0u) << "reversed";
+  pumpMessages(300);
+  saveScreenshot("task-list");
+
+  sendBarCommand(171);
+  EXPECT_EQ(ownDialog("Task list"), dialog) << "one dialog however often it is asked for";
+  SendMessageA(dialog, WM_CLOSE, 0, 0);
+  EXPECT_EQ(ownDialog("Task list"), nullptr);
+  EXPECT_NE(GetFileAttributesA((project_ + ".tsk").c_str()), INVALID_FILE_ATTRIBUTES) << "saved when closed";
+
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
+  ASSERT_EQ(watchdog_.boxes().size(), 1u);
+  EXPECT_EQ(watchdog_.boxes()[0], "Warning: Remove New task ?");
+}
+
+TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  pressButton(dialog, 109);
+  SendMessageA(dialog, WM_CLOSE, 0, 0);
+
+  reopenProject();
+  HWND flash = flashShown();
+  ASSERT_NE(flash, nullptr) << "a task is current today";
+  EXPECT_NE(text(flash, 101).find("New task"), std::string::npos) << text(flash, 101);
+  RECT client;
+  RECT report;
+  GetClientRect(flash, &client);
+  GetWindowRect(GetDlgItem(flash, 101), &report);
+  EXPECT_EQ(report.right - report.left, client.right) << "the report fills the window";
+  pumpMessages(300);
+  saveScreenshot("flash");
+  SendMessageA(flash, WM_CLOSE, 0, 0);
+  EXPECT_EQ(flashShown(), nullptr);
+
+  reopenProject();
+  EXPECT_EQ(flashShown(), nullptr) << "once a day";
+
+  sendBarCommand(173);
+  flash = flashShown();
+  ASSERT_NE(flash, nullptr) << "on demand whatever the day";
+  sendBarCommand(173);
+  EXPECT_EQ(flashShown(), flash) << "a second showing keeps the window";
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
+  EXPECT_EQ(flashShown(), nullptr) << "the add-on takes its windows with it";
+  EXPECT_TRUE(watchdog_.boxes().empty());
+}
+
+}  // namespace
