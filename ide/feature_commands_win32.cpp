@@ -26,11 +26,10 @@ namespace {
 
 HINSTANCE instance() { return addon().environment ? addon().environment->instance : nullptr; }
 
-// The groupware settings with the open project's server directory; null without them.
+// The groupware settings, whose server directory the project client and the
+// options page keep in step with the open project; null without a project.
 const GroupwareSettings* groupwareOfProject() {
-  ProjectOptionStore* store = ideHost().projectOptions();
-  if (!addon().groupware || !addon().mail || !store) return nullptr;
-  addon().groupware->loadServer(*store);
+  if (!addon().groupware || !addon().mail || !openProjectOptions()) return nullptr;
   return addon().groupware;
 }
 

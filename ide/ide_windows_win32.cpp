@@ -9,30 +9,33 @@
 namespace {
 
 struct Search {
-  const char* windowClass;
-  std::string upperName;
-  bool byName;
+  const std::function<bool(HWND)>& matches;
   HWND found;
 };
 
 BOOL CALLBACK visit(HWND window, LPARAM lParam) {
   auto* search = reinterpret_cast<Search*>(lParam);
-  char className[80] = {};
-  char title[280] = {};
-  GetClassNameA(window, className, sizeof className);
-  GetWindowTextA(window, title, sizeof title);
-  if (search->windowClass && std::strcmp(className, search->windowClass) != 0) return TRUE;
-  if (search->byName && !titleNamesFile(title, search->upperName)) return TRUE;
+  if (!search->matches(window)) return TRUE;
   search->found = window;
   return FALSE;
 }
 
 }  // namespace
 
-HWND findChildWindow(HWND parent, const char* windowClass, const char* fileName) {
-  Search search{windowClass, fileName ? asciiUpper(fileName) : std::string(), fileName != nullptr, nullptr};
+HWND findChildWindowWhere(HWND parent, const std::function<bool(HWND)>& matches) {
+  Search search{matches, nullptr};
   if (parent) EnumChildWindows(parent, visit, reinterpret_cast<LPARAM>(&search));
   return search.found;
+}
+
+HWND findChildWindow(HWND parent, const char* windowClass, const char* fileName) {
+  const std::string upperName = fileName ? asciiUpper(fileName) : std::string();
+  return findChildWindowWhere(parent, [&](HWND window) {
+    if (windowClass && !hasClass(window, windowClass)) return false;
+    char title[280] = {};
+    GetWindowTextA(window, title, sizeof title);
+    return !fileName || titleNamesFile(title, upperName);
+  });
 }
 
 bool hasClass(HWND window, const char* windowClass) {

@@ -3,6 +3,12 @@
 
 #include <windows.h>
 
+#include <functional>
+
+// The first descendant of parent (in EnumChildWindows order) that matches;
+// null when none does.
+HWND findChildWindowWhere(HWND parent, const std::function<bool(HWND)>& matches);
+
 // The first descendant of parent (in EnumChildWindows order) whose class is
 // windowClass exactly (any class when null) and, when fileName is given, whose
 // title names that file (see titleNamesFile; compared in upper case). Null

@@ -13,36 +13,24 @@
 
 namespace {
 
-struct EditorSearch {
-  std::string upperPath;
-  HWND except;
-  HWND found;
-};
-
-// An editor whose title, less its view number and modified mark, is the path.
-BOOL CALLBACK visitEditor(HWND window, LPARAM lParam) {
-  auto* search = reinterpret_cast<EditorSearch*>(lParam);
-  char title[280] = {};
-  GetWindowTextA(window, title, sizeof title);
-  if (window == search->except || !hasClass(window, "BCW5Editor") ||
-      asciiUpper(editorFileName(title, sizeof title)) != search->upperPath)
-    return TRUE;
-  search->found = window;
-  return FALSE;
-}
-
 // Unless "EditOtherView" is on or Shift is held: the editor of path, other
 // than except, restored and raised.
 bool bringEditorForward(const std::string& path, HWND except = nullptr) {
   const bool otherView = addon().topBar && addon().topBar->settings.editOtherView != 0;
   HWND documents = ideDocuments();
   if (otherView || (GetKeyState(VK_SHIFT) & 0x8000) || !documents) return false;
-  EditorSearch search{asciiUpper(path), except, nullptr};
-  EnumChildWindows(documents, visitEditor, reinterpret_cast<LPARAM>(&search));
-  if (!search.found) return false;
-  ShowWindow(search.found, SW_SHOWNORMAL);
-  SetWindowPos(search.found, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
-  SendMessageA(documents, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(search.found), 0);
+  const std::string upperPath = asciiUpper(path);
+  // An editor whose title, less its view number and modified mark, is the path.
+  HWND found = findChildWindowWhere(documents, [&](HWND window) {
+    char title[280] = {};
+    GetWindowTextA(window, title, sizeof title);
+    return window != except && hasClass(window, "BCW5Editor") &&
+           asciiUpper(editorFileName(title, sizeof title)) == upperPath;
+  });
+  if (!found) return false;
+  ShowWindow(found, SW_SHOWNORMAL);
+  SetWindowPos(found, HWND_TOP, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
+  SendMessageA(documents, WM_MDIACTIVATE, reinterpret_cast<WPARAM>(found), 0);
   return true;
 }
 

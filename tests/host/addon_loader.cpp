@@ -114,16 +114,14 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   GetDlgItemTextA(window, 0xFFFF, text, sizeof text);
   const std::string box = std::string(caption) + ": " + text;
   auto* watchdog = reinterpret_cast<MessageBoxWatchdog*>(self);
-  int button = 0;
   {
     std::lock_guard<std::mutex> lock(watchdog->mutex_);
     watchdog->boxes_.push_back(box);
-    button = watchdog->answer_;
   }
   if (watchdog->onBox_) watchdog->onBox_(box);
   // Hidden at once, so that the next round does not count it again before it closes.
   ShowWindow(window, SW_HIDE);
-  PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(button ? button : defaultButton(window)), 0);
+  PostMessageA(window, WM_COMMAND, defaultButton(window), 0);
   return TRUE;
 }
 

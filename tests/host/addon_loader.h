@@ -72,18 +72,12 @@ class MessageBoxWatchdog {
   MessageBoxWatchdog& operator=(const MessageBoxWatchdog&) = delete;
 
   std::vector<std::string> boxes();
-  // The button every later box is answered with, instead of its default one.
-  void answerWith(int button) {
-    std::lock_guard<std::mutex> lock(mutex_);
-    answer_ = button;
-  }
 
  private:
   static BOOL CALLBACK answer(HWND window, LPARAM self);
   BoxListener onBox_;
   std::mutex mutex_;
   std::vector<std::string> boxes_;
-  int answer_ = 0;  // 0: the box's default button
   bool stopping_ = false;
   std::thread thread_;
 };

@@ -191,7 +191,6 @@ TEST_F(OptionPagesTest, EveryPageChangedAndAppliedReachesTheSettingsAndTheProjec
   putSetting("Completion\\Files", "Entry0", kWork + "\\FIRST.KWD");
   putSetting("Completion\\Files", "Entry1", kWork + "\\SECOND.KWD");
   std::ofstream(kWork + "\\THIRD.KWD") << "third\n";
-  watchdog_.answerWith(IDYES);
   ASSERT_TRUE(addon_.start(&ide_));
   ide_.project.clients[0]->ProjectOpened(nullptr);
   ASSERT_EQ(ide_.tools.added.size(), 1u);

@@ -8,6 +8,7 @@
 #include "addon_loader.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
+#include "topbar/bar_commands.h"
 #include "ui_driver.h"
 
 namespace {
@@ -26,8 +27,6 @@ int barHeight() {
   GetWindowRect(FindWindowA("KADO", nullptr), &rect);
   return rect.bottom - rect.top;
 }
-
-constexpr WPARAM kRebuildCommand = 103;
 
 std::string barMenu() { return describeWin32Menu(GetMenu(FindWindowA("KADO", nullptr))); }
 
@@ -122,7 +121,7 @@ TEST_F(TopBarTest, EditorsOfHeadersEnterTheHeaderMenuAndASecondViewOfAFileCloses
   ASSERT_FALSE(ide_.statusLine.texts.empty());
   EXPECT_EQ(ide_.statusLine.texts.back(), "Pas de bar");
   SetMenu(bar, menu);
-  SendMessageA(bar, WM_COMMAND, kRebuildCommand, 0);
+  sendBarCommand(kRebuildMenuCommand);
   EXPECT_EQ(barMenu().rfind("Kesto\n  Last Includes\n    400 THREE.H\n    401 two.h\n    402 ONE.H\n", 0), 0u)
       << "a rebuild shows file names: " << barMenu();
   addon.stop();
