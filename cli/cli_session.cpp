@@ -41,6 +41,12 @@ std::string settingsFilePath() {
 void reportError(const std::string& text) { std::cerr << "kesto: " << text << '\n'; }
 
 CliSession::CliSession() : settingsFile_(settingsFilePath()) {
+  // $KESTO_LOCK_WAIT: the seconds a run waits for another one that holds a file it changes.
+  if (const char* wait = std::getenv("KESTO_LOCK_WAIT"); wait && *wait) {
+    char* end = nullptr;
+    long seconds = std::strtol(wait, &end, 10);
+    if (*end == 0 && seconds >= 0 && seconds <= 86400) os().lockWaitMilliseconds = static_cast<int>(seconds * 1000);
+  }
   settings().setBackend(&settingsFile_);
   setAlertHandler(&host_);
   if (!settingsFile_.check()) reportError(settingsFile_.error() + " (defaults are used; the file is left as it is)");
@@ -51,14 +57,20 @@ CliSession::~CliSession() {
   settings().setBackend(nullptr);
 }
 
-bool CliSession::openProject() {
+bool CliSession::openProject(ProjectUse use) {
   if (opened_) return true;
   opened_ = true;
   std::string path = projectOption.empty() ? projectInCurrentDirectory() : projectOption;
   if (path.empty()) return true;
+  path = absolute(path);
   auto project = std::make_unique<KpjProject>();
   std::string err;
-  if (!project->load(absolute(path), &err)) {
+  if (use == ProjectUse::Update && !(projectLock_ = os().lock(path, &err))) {
+    reportError(err);
+    exitStatus = kExitNothing;
+    return false;
+  }
+  if (!project->load(path, &err)) {
     reportError(err);
     exitStatus = kExitNothing;
     return false;
@@ -68,8 +80,8 @@ bool CliSession::openProject() {
   return true;
 }
 
-bool CliSession::requireProject() {
-  if (!openProject()) return false;
+bool CliSession::requireProject(ProjectUse use) {
+  if (!openProject(use)) return false;
   if (project_) return true;
   reportError("no project: give --project FILE or run where one *.kpj file is");
   exitStatus = kExitUsage;

@@ -7,10 +7,16 @@
 
 #include "cli/cli_host.h"
 #include "cli/kpj_project.h"
+#include "foundation/os.h"
 #include "foundation/settings_file.h"
 
 // Exit statuses of every command.
 enum ExitStatus { kExitOk = 0, kExitNothing = 1, kExitUsage = 2 };
+
+// Update: the command saves the project, so the project file's lock is taken
+// before it is read and held until the run ends, and a parallel run's change
+// is never lost.
+enum class ProjectUse { Read, Update };
 
 class CliSession {
  public:
@@ -25,9 +31,9 @@ class CliSession {
   // Opens the project named by --project, else the one *.kpj of the current
   // directory. With no project file at all, returns true and project() stays
   // null. A project that cannot be read is reported on standard error.
-  bool openProject();
+  bool openProject(ProjectUse use = ProjectUse::Read);
   // Like openProject, but a project is required: reports "no project" otherwise.
-  bool requireProject();
+  bool requireProject(ProjectUse use = ProjectUse::Read);
   KpjProject* project() { return project_.get(); }
   // The project's directory, or the current directory without a project.
   std::string projectDirectory();
@@ -41,6 +47,7 @@ class CliSession {
  private:
   SettingsFile settingsFile_;
   CliHost host_;
+  std::unique_ptr<OsLock> projectLock_;  // before project_: released after it
   std::unique_ptr<KpjProject> project_;
   bool opened_ = false;
 };

@@ -69,7 +69,7 @@ void listGroups(CliSession& session) {
 }
 
 void setGroup(CliSession& session, const DeliveryArguments& args) {
-  if (!session.requireProject()) return;
+  if (!session.requireProject(ProjectUse::Update)) return;
   ProjectOptions options = readOptions(session);
   Delivery delivery;
   rebuildGroups(session, options, &delivery);

@@ -27,7 +27,12 @@ struct ListArguments {
   std::vector<std::unique_ptr<std::vector<std::string>>> files;  // one per button
   std::vector<CLI::Option*> options;
   bool go = false;
+  bool steal = false;  // get: take over a lock that someone else holds
 };
+
+// What a get may do with a copy that someone else locked meanwhile; a send has no such choice.
+void applyLockPolicy(GwGetPresenter& presenter, const ListArguments& args) { presenter.refuseOthersLocks = !args.steal; }
+void applyLockPolicy(GwSendPresenter&, const ListArguments&) {}
 
 // The settings, the project's server and recipients; false when the run cannot go on.
 bool openGroupware(CliSession& session, GroupwareSettings* settings, Mail* mail) {
@@ -73,6 +78,7 @@ void runList(CliSession& session, const std::vector<Button<Presenter>>& buttons,
   Mail mail;
   if (!openGroupware(session, &settings, &mail)) return;
   Presenter presenter(session.host(), mail, settings);
+  applyLockPolicy(presenter, args);
   if (!presenter.open()) {
     session.exitStatus = kExitNothing;
     return;
@@ -95,15 +101,17 @@ void runList(CliSession& session, const std::vector<Button<Presenter>>& buttons,
     (presenter.*buttons[button].press)();
   }
   if (args.go) {
-    if (!(presenter.*perform)()) session.exitStatus = kExitNothing;
+    // Whatever failed (a copy, a lock, the mail) fails the run, once the rest is done.
+    if (!(presenter.*perform)() || presenter.failures() > 0) session.exitStatus = kExitNothing;
     std::cerr << presenter.report();
   }
   for (const std::string& row : presenter.rows()) std::cout << row << '\n';
 }
 
 template <typename Presenter>
-void installList(CLI::App& command, CliSession& session, const std::vector<Button<Presenter>>& buttons,
-                 bool (Presenter::*perform)(), const char* goHelp) {
+std::shared_ptr<ListArguments> installList(CLI::App& command, CliSession& session,
+                                           const std::vector<Button<Presenter>>& buttons, bool (Presenter::*perform)(),
+                                           const char* goHelp) {
   auto args = std::make_shared<ListArguments>();
   for (const Button<Presenter>& button : buttons) {
     args->files.push_back(std::make_unique<std::vector<std::string>>());
@@ -113,6 +121,7 @@ void installList(CLI::App& command, CliSession& session, const std::vector<Butto
   }
   command.add_flag("--go", args->go, goHelp);
   command.callback([&session, &command, buttons, perform, args] { runList(session, buttons, perform, command, *args); });
+  return args;
 }
 
 void listLocks(CliSession& session) {
@@ -154,8 +163,11 @@ void installGroupwareCommands(CLI::App& command, CliSession& session) {
   };
   installList(*command.add_subcommand("send", "List the files being edited against the server; NAME, SERVER AGE, REQUEST"),
               session, sendButtons, &GwSendPresenter::send, "\"SEND !\": copy the requested files to the server");
-  installList(*command.add_subcommand("get", "List the server's files; NAME, LOCKED, SERVER AGE, ADVICE, REQUEST"),
-              session, getButtons, &GwGetPresenter::get, "\"GET !\": copy the requested files from the server");
+  CLI::App* get = command.add_subcommand("get", "List the server's files; NAME, LOCKED, SERVER AGE, ADVICE, REQUEST");
+  auto getArgs = installList(*get, session, getButtons, &GwGetPresenter::get,
+                             "\"GET !\": copy the requested files from the server");
+  get->add_flag("--steal", getArgs->steal,
+                "Take over a lock that someone else took after the list was made (refused otherwise)");
   command.add_subcommand("locks", "List the locked server files with the user who took each lock")
       ->callback([&session] { listLocks(session); });
 }

@@ -20,7 +20,7 @@ struct MailArguments {
 // Opens the page on the project's recipients, runs edit, accepts and saves the project.
 template <typename Edit>
 void editRecipients(CliSession& session, Edit edit) {
-  if (!session.requireProject()) return;
+  if (!session.requireProject(ProjectUse::Update)) return;
   Mail mail;
   mail.loadSettings();
   loadRecipientsFromProject(mail, *session.project());

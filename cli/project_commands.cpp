@@ -82,7 +82,7 @@ bool parseInteger(const std::string& text, int32_t* value) {
 }
 
 void set(CliSession& session, const ProjectArguments& args) {
-  if (!session.requireProject()) return;
+  if (!session.requireProject(ProjectUse::Update)) return;
   const ProjectOptionInfo* info = findProjectOption(args.name);
   if (!info) {
     std::string names;
@@ -113,7 +113,7 @@ void set(CliSession& session, const ProjectArguments& args) {
 // Applies edit to the project's tree and saves the file.
 template <typename Edit>
 void editTree(CliSession& session, Edit edit) {
-  if (!session.requireProject()) return;
+  if (!session.requireProject(ProjectUse::Update)) return;
   std::string err;
   if (!edit(*session.project(), &err) || !session.project()->save(&err)) {
     reportError(err);
@@ -123,7 +123,7 @@ void editTree(CliSession& session, Edit edit) {
 
 // Quick add as the dialog does it, then the project file is saved.
 void quickAdd(CliSession& session, const ProjectArguments& args, bool withContainer) {
-  if (!session.requireProject()) return;
+  if (!session.requireProject(ProjectUse::Update)) return;
   KpjProject& project = *session.project();
   const ProjectNode* current = findNodeNamed(project.root(), args.at);
   if (!current) {

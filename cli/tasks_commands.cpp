@@ -44,6 +44,13 @@ class TaskSession {
     if (!session_.requireProject()) return false;
     KpjProject& project = *session_.project();
     tasks_.filePath = taskFilePath(project.path());
+    // Held from the read to the save, so that a parallel run's change is kept.
+    std::string err;
+    if (!(lock_ = os().lock(tasks_.filePath.str(), &err))) {
+      reportError(err);
+      session_.exitStatus = kExitNothing;
+      return false;
+    }
     tasks_.load();
     tasks_.rebuildView();
     mail_.loadSettings();
@@ -81,6 +88,7 @@ class TaskSession {
 
  private:
   CliSession& session_;
+  std::unique_ptr<OsLock> lock_;
   TaskList tasks_;
   Mail mail_;
   std::unique_ptr<TaskListPresenter> presenter_;

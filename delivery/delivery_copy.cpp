@@ -34,7 +34,8 @@ DeliveryReport copyDeliveries(Host& host, Tableau<Livrage>& deliveries) {
       const std::string source = deliveries[i]->source.str();
       const std::string directory = deliveries[i]->directory.str();
       std::string err;
-      CopyFailure failure = copyFileWithProgress(source, joinPath(directory, fileNameOf(source)), progress, &err);
+      CopyFailure failure = copyFileWithProgress(source, joinPath(directory, fileNameOf(source)), FinalMode::LikeTarget,
+                                                   progress, &err);
       if (failure == CopyFailure::None) {
         host.addMessage(kDeliveryGroup, parent, source + " delivered");
       } else {

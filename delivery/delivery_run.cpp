@@ -22,10 +22,13 @@ DeliveryOutcome Delivery::run(Host& host, Mail& mail, bool includeTaskNotes, con
   host.setBusy(true);
   DeliveryReport report = copyDeliveries(host, deliveries);
   host.setBusy(false);
-  if (!report.failed && !report.text.empty() && !report.subject.empty() && confirmation.sendMail()) {
+  if (report.failed) return DeliveryOutcome::Failed;
+  if (!report.text.empty() && !report.subject.empty() && confirmation.sendMail()) {
     const std::string notes = includeTaskNotes ? notificationFilePath(projectFile) : std::string();
-    if (!mail.send(host, report.subject, report.text, notes))
+    if (!mail.send(host, report.subject, report.text, notes)) {
       alert("MAPI SendMail missed !", "Kesto AddOn error", kAlertIconHand);
+      return DeliveryOutcome::MailFailed;
+    }
   }
-  return report.failed ? DeliveryOutcome::Failed : DeliveryOutcome::Delivered;
+  return DeliveryOutcome::Delivered;
 }

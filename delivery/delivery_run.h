@@ -10,7 +10,8 @@ enum class DeliveryOutcome {
   NothingToDeliver,  // "No files to deliver !"
   Refused,           // a delivery directory is missing
   Cancelled,         // the confirmation was cancelled
-  Delivered,         // every file copied (the mail may still have failed)
+  Delivered,         // every file copied, and mailed when asked
+  MailFailed,        // every file copied, but the mail did not go out
   Failed,            // at least one copy failed
 };
 

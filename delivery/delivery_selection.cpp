@@ -43,9 +43,9 @@ bool needsDelivery(const std::string& source, const std::string& directory) {
   const std::string copy = joinPath(directory, fileNameOf(source));
   FileAttributes copyInfo;
   if (!os().attributes(copy, &copyInfo, nullptr) || copyInfo.size != sourceInfo.size) return true;
-  std::unique_ptr<OsFile> in = os().openFile(source, FileAccess::Read, nullptr);
+  std::unique_ptr<OsFile> in = os().openFile(source, nullptr);
   if (!in) return false;
-  std::unique_ptr<OsFile> delivered = os().openFile(copy, FileAccess::Read, nullptr);
+  std::unique_ptr<OsFile> delivered = os().openFile(copy, nullptr);
   return !delivered || !sameContents(*in, *delivered);
 }
 

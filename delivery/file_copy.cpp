@@ -23,55 +23,48 @@ class BlockCopy {
   BlockCopy(const std::string& from, const std::string& to, CopyProgress& progress)
       : from_(from), to_(to), name_(fileNameOf(from)), progress_(progress) {}
 
-  CopyFailure run(std::string* err) {
+  CopyFailure run(FinalMode mode, std::string* err) {
     FileAttributes source;
     if (!os().attributes(from_, &source, err)) return CopyFailure::OpenSource;
     size_ = source.size;
-    std::unique_ptr<OsFile> in = os().openFile(from_, FileAccess::Read, err);
+    std::unique_ptr<OsFile> in = os().openFile(from_, err);
     if (!in) return CopyFailure::OpenSource;
-    std::unique_ptr<OsFile> out = os().openFile(temporary(), FileAccess::Write, err);
-    if (!out) return CopyFailure::CreateTarget;
-    created_ = true;
+    // An uncommitted replacement removes its temporary on every return below.
+    Replacement out;
+    if (!out.open(to_, mode, err)) return CopyFailure::CreateTarget;
     std::vector<char> buffer(kCopyBlockSize);
     for (;;) {
       size_t got = 0;
       if (!in->read(buffer.data(), buffer.size(), &got, err)) return CopyFailure::ReadSource;
       if (got == 0) break;
-      if (!out->write(buffer.data(), got, err)) return CopyFailure::WriteTarget;
+      if (!out.file().write(buffer.data(), got, err)) return CopyFailure::WriteTarget;
       copied_ += got;
       progress_.advance(got, name_);
     }
-    if (!out->close(err)) return CopyFailure::WriteTarget;
-    if (!os().setModified(temporary(), source.modified, err) || !os().replaceFile(temporary(), to_, err))
-      return CopyFailure::WriteTarget;
-    created_ = false;
+    if (!out.file().setModified(source.modified, err) || !out.commit(err)) return CopyFailure::WriteTarget;
     return CopyFailure::None;
   }
 
-  // After a failure: the temporary goes, and the file's whole size counts as done.
+  // After a failure the file's whole size counts as done.
   void abandon() {
-    if (created_) os().removeFile(temporary(), nullptr);
     if (size_ > copied_) progress_.advance(size_ - copied_, name_);
   }
 
  private:
-  std::string temporary() const { return temporaryPathFor(to_); }
-
   const std::string& from_;
   const std::string& to_;
   std::string name_;
   CopyProgress& progress_;
   uint64_t size_ = 0;
   uint64_t copied_ = 0;
-  bool created_ = false;
 };
 
 }  // namespace
 
-CopyFailure copyFileWithProgress(const std::string& from, const std::string& to, CopyProgress& progress,
-                                 std::string* err) {
+CopyFailure copyFileWithProgress(const std::string& from, const std::string& to, FinalMode mode,
+                                 CopyProgress& progress, std::string* err) {
   BlockCopy copy(from, to, progress);
-  CopyFailure failure = copy.run(err);
+  CopyFailure failure = copy.run(mode, err);
   if (failure != CopyFailure::None) copy.abandon();
   return failure;
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "foundation/os.h"
 #include "ide/host.h"
 
 // One progress display for an action that copies several files.
@@ -26,15 +27,14 @@ class CopyProgress {
 
 enum class CopyFailure { None, OpenSource, CreateTarget, ReadSource, WriteTarget };
 
-// Copies `from` to `to` in blocks of kCopyBlockSize bytes through a temporary
-// file beside `to`, renamed into place (an existing target is replaced), and
-// gives the copy the source's modification time. On failure the old target is
-// untouched, no temporary is left, the bytes not copied are counted as done in
-// progress (all of the file's size, once it was known), and *err holds the
-// system's words. A read-only target is replaced
-// only when the caller made it writable first.
-CopyFailure copyFileWithProgress(const std::string& from, const std::string& to, CopyProgress& progress,
-                                 std::string* err);
+// Copies `from` to `to` in blocks of kCopyBlockSize bytes through a
+// Replacement of `to` (an existing target, read-only or not, is replaced; a
+// link there is replaced, not followed) that ends with the given mode and the
+// source's modification time. On failure the old target is untouched, no
+// temporary is left, the bytes not copied are counted as done in progress (all
+// of the file's size, once it was known), and *err holds the system's words.
+CopyFailure copyFileWithProgress(const std::string& from, const std::string& to, FinalMode mode,
+                                 CopyProgress& progress, std::string* err);
 
 constexpr size_t kCopyBlockSize = 16380;
 

@@ -39,6 +39,10 @@ std::string buildMailNote(const std::string& body, const std::string& includeFil
 }
 
 int Mail::send(Host& host, const std::string& subject, const std::string& body, const std::string& includeFile) {
+  // Held from the read of the included notes to their removal, so that a note
+  // another process adds meanwhile waits and is kept. Without the lock the
+  // notes are mailed but kept: twice is better than never.
+  std::unique_ptr<OsLock> includeLock = includeFile.empty() ? nullptr : os().lock(includeFile, nullptr);
   MailMessage message;
   message.subject = subject;
   message.note = buildMailNote(body, includeFile);
@@ -48,7 +52,7 @@ int Mail::send(Host& host, const std::string& subject, const std::string& body, 
   switch (host.sendMail(message, &err)) {
     case MailResult::Sent:
       // The included notifications are consumed by the sending.
-      if (!includeFile.empty()) os().removeFile(includeFile, nullptr);
+      if (includeLock) os().removeFile(includeFile, nullptr);
       return 1;
     case MailResult::TransportMissing:
       alert("MAPI not present !", "Kesto AddOn error", kAlertIconHand);

@@ -11,12 +11,12 @@ void reportPureCall(const char* what) {
 
 }  // namespace
 
-int Basic::fWrite(FILE*) {
+int Basic::fWrite(ByteStream&) {
   reportPureCall("Appel de Basic::fWrite virtuelle pure !");
   return 0;
 }
 
-int Basic::fRead(FILE*) {
+int Basic::fRead(ByteStream&) {
   reportPureCall("Appel de Basic::fRead virtuelle pure !");
   return 0;
 }

@@ -105,19 +105,19 @@ char* String::at(long int index) {
   return text_ + index;
 }
 
-int String::fWrite(FILE* file) {
+int String::fWrite(ByteStream& file) {
   if (!writeU16(file, length_)) return 0;
-  return std::fwrite(text_, 1, length_ + 1u, file) == length_ + 1u ? 1 : 0;
+  file.write(text_, length_ + 1u);
+  return 1;
 }
 
-int String::fRead(FILE* file) {
-  unsigned char bytes[2];
-  if (std::fread(bytes, 1, 2, file) != 2) return 0;
-  uint16_t length = static_cast<uint16_t>(bytes[0] | (bytes[1] << 8));
+int String::fRead(ByteStream& file) {
+  uint16_t length = 0;
+  if (!readU16(file, &length)) return 0;
   char* block = static_cast<char*>(std::realloc(text_, length + 1u));
   if (!block) return 0;
   text_ = block;
-  size_t got = std::fread(text_, 1, length + 1u, file);
+  size_t got = file.readSome(text_, length + 1u);
   // Whatever arrived, the string stays terminated within its block.
   length_ = static_cast<uint16_t>(got < length ? got : length);
   text_[length_] = 0;

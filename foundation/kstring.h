@@ -50,9 +50,9 @@ class String : public Basic {
   std::string str() const { return std::string(text_, length_); }
 
   // File form: the length as an unsigned 16-bit integer, then the text and its zero.
-  int fWrite(FILE* file) override;
+  int fWrite(ByteStream& file) override;
   // Reading failure leaves the string as far as it got, still zero-terminated.
-  int fRead(FILE* file) override;
+  int fRead(ByteStream& file) override;
 
  private:
   void assign(const char* text, size_t length);

@@ -50,11 +50,27 @@ class OsFile {
   virtual bool read(char* buffer, size_t size, size_t* got, std::string* err) = 0;
   // All of size bytes, or false.
   virtual bool write(const char* data, size_t size, std::string* err) = 0;
+  // The file's modification time, in seconds since 1970-01-01 UTC.
+  virtual bool setModified(int64_t modified, std::string* err) = 0;
   // Closes now, reporting what the system could not write.
   virtual bool close(std::string* err) = 0;
 };
 
-enum class FileAccess { Read, Write };  // Write creates or truncates
+// The mode a file put in place by a replacement ends with.
+enum class FinalMode {
+  LikeTarget,  // the replaced file's permissions; the defaults for a new file
+  ReadOnly,
+  Writable,
+};
+
+// An exclusive advisory lock, released when destroyed (and by the system when
+// the process dies, so a killed run never leaves a file locked).
+class OsLock {
+ public:
+  virtual ~OsLock() = default;
+};
+
+enum class LockAttempt { Taken, Busy, Failed };
 
 enum class DateForm { Short, Long };
 // User: the user's own formats. System: the system locale's defaults, user overrides ignored.
@@ -69,14 +85,27 @@ class Os {
 
   // Whole files, binary.
   virtual bool readFile(const std::string& path, std::string* data, std::string* err) = 0;
-  // Creates or truncates.
+  // Creates or truncates in place: for test fixtures and benchmarks only. A file
+  // that someone else may read or write goes through writeFileAtomic.
   virtual bool writeFile(const std::string& path, const std::string& data, std::string* err) = 0;
-  virtual bool appendFile(const std::string& path, const std::string& data, std::string* err) = 0;
-  // A file read or written piece by piece, for work that shows its progress; null on failure.
-  virtual std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) = 0;
+  // A file read piece by piece, for work that shows its progress; null on failure.
+  virtual std::unique_ptr<OsFile> openFile(const std::string& path, std::string* err) = 0;
+  // Creates path for writing, exclusively: null, with *existed set, when anything
+  // is there already, a link included, so that nothing is ever written through a
+  // planted link. The file takes the permissions of likeFile when that is a
+  // regular file (the defaults otherwise), made read-only or writable as mode says.
+  virtual std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
+                                                bool* existed, std::string* err) = 0;
+  // One attempt at the exclusive advisory lock of path, held on its sidecar lock
+  // file (lockFilePathFor), which is created when missing and never followed
+  // through a link. Busy when another process holds it.
+  virtual LockAttempt tryLock(const std::string& path, std::unique_ptr<OsLock>* lock, std::string* err) = 0;
+  virtual void sleepMilliseconds(int milliseconds) = 0;
 
   virtual bool exists(const std::string& path) = 0;
+  // A link's attributes are those of its target, with isLink set.
   virtual bool attributes(const std::string& path, FileAttributes* out, std::string* err) = 0;
+  // Never through a link.
   virtual bool setReadOnly(const std::string& path, bool readOnly, std::string* err) = 0;
   virtual bool setModified(const std::string& path, int64_t modified, std::string* err) = 0;
   // Entries sorted by name, case-insensitively, as the Windows file system lists them;
@@ -87,10 +116,9 @@ class Os {
   virtual bool removeDirectory(const std::string& path, std::string* err) = 0;
   // Fails when `to` exists, as on Windows.
   virtual bool renameFile(const std::string& from, const std::string& to, std::string* err) = 0;
-  // Atomically puts `from` in place of `to`, which may exist.
+  // Atomically puts `from` in place of `to`, which may exist (read-only or a link,
+  // which is replaced, not followed).
   virtual bool replaceFile(const std::string& from, const std::string& to, std::string* err) = 0;
-  // Copies contents, modification time and the read-only attribute.
-  virtual bool copyFile(const std::string& from, const std::string& to, bool failIfExists, std::string* err) = 0;
 
   virtual std::string currentDirectory() = 0;
   virtual bool setCurrentDirectory(const std::string& path, std::string* err) = 0;
@@ -104,12 +132,25 @@ class Os {
   // Opens a document with the desktop's opener.
   virtual bool openDocument(const std::string& path, std::string* err) = 0;
 
-  // Writes through a temporary file beside `path` and renames it into place,
-  // so a crash never leaves a half-written file.
-  bool writeFileAtomic(const std::string& path, const std::string& data, std::string* err);
+  // How long lock() waits for another process before it gives up.
+  int lockWaitMilliseconds = 30000;
+
+  // Takes the advisory lock of path, waiting for another holder up to
+  // lockWaitMilliseconds; null with *err naming the file on failure.
+  std::unique_ptr<OsLock> lock(const std::string& path, std::string* err);
+
+  // Writes through a Replacement, so that a crash never leaves a half-written
+  // file and a reader sees the old or the new contents, never a mix.
+  bool writeFileAtomic(const std::string& path, const std::string& data, std::string* err) {
+    return writeFileAtomic(path, data, FinalMode::LikeTarget, err);
+  }
+  bool writeFileAtomic(const std::string& path, const std::string& data, FinalMode mode, std::string* err);
   // Text files in the platform's text mode: "\n" becomes CR LF on Windows.
-  bool writeTextFile(const std::string& path, const std::string& text, std::string* err);
   bool writeTextFileAtomic(const std::string& path, const std::string& text, std::string* err);
+  // setReadOnly, and where the system refuses it (on POSIX only a file's owner
+  // may change its mode) the file is replaced by a copy with the new mode and
+  // the same time, which write permission on its directory suffices for.
+  bool setReadOnlyOrReplace(const std::string& path, bool readOnly, std::string* err);
   // Creates path and every missing folder above it; true when it exists afterwards.
   bool makeDirectories(const std::string& path, std::string* err);
   // Reads a text file; on Windows CR LF becomes "\n".
@@ -134,8 +175,38 @@ class ScopedOs {
 // The platform's own implementation, for wrappers that delegate to it.
 Os& platformOs();
 
-// The temporary file beside path that a rewrite of path goes through.
-std::string temporaryPathFor(const std::string& path);
+// A new version of a file, written beside it and put in its place. The
+// temporary has a unique name (temporaryPathFor), is created exclusively with
+// the mode the target ends with, and is removed when the object dies
+// uncommitted, so that every failure path leaves the target as it was.
+class Replacement {
+ public:
+  Replacement() = default;
+  ~Replacement();
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  bool open(const std::string& target, FinalMode mode, std::string* err);
+  OsFile& file() { return *file_; }
+  // Closes the temporary and renames it over the target.
+  bool commit(std::string* err);
+
+ private:
+  std::string target_;
+  std::string temporary_;
+  std::unique_ptr<OsFile> file_;
+};
+
+// The temporaries of a replacement of path: hidden names beside it, each with
+// a token of its own ("DIR/.NAME.kesto-tmp-TOKEN").
+std::string temporaryPathFor(const std::string& path, const std::string& token);
+bool isTemporaryName(const std::string& fileName);
+// The sidecar file that holds the advisory lock of path: "DIR/.NAME.kesto-lock".
+std::string lockFilePathFor(const std::string& path);
+bool isLockFileName(const std::string& fileName);
+
+// Text in the platform's text mode: "\n" becomes CR LF on Windows.
+std::string platformText(const std::string& text);
 
 // Path helpers with the platform's separator.
 std::string joinPath(const std::string& dir, const std::string& name);

@@ -1,6 +1,7 @@
 // The OS layer on POSIX systems.
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <langinfo.h>
 #include <pwd.h>
 #include <sys/stat.h>
@@ -75,6 +76,14 @@ class PosixFile : public OsFile {
     return writeAll(fd_, data, size) || fail(err, "write", path_);
   }
 
+  bool setModified(int64_t modified, std::string* err) override {
+    struct timespec times[2];
+    times[0].tv_sec = static_cast<time_t>(modified);
+    times[0].tv_nsec = 0;
+    times[1] = times[0];
+    return ::futimens(fd_, times) == 0 || fail(err, "futimens", path_);
+  }
+
   bool close(std::string* err) override {
     int fd = fd_;
     fd_ = -1;
@@ -85,6 +94,49 @@ class PosixFile : public OsFile {
   int fd_;
   std::string path_;
 };
+
+// flock() on the sidecar: it belongs to the open file, so the system drops it
+// when the process dies, and it needs no write permission on the sidecar.
+class PosixLock : public OsLock {
+ public:
+  explicit PosixLock(int fd) : fd_(fd) {}
+  ~PosixLock() override { ::close(fd_); }
+  PosixLock(const PosixLock&) = delete;
+  PosixLock& operator=(const PosixLock&) = delete;
+
+ private:
+  int fd_;
+};
+
+mode_t finalMode(mode_t base, FinalMode mode) {
+  switch (mode) {
+    case FinalMode::ReadOnly:
+      return base & ~static_cast<mode_t>(0222);
+    case FinalMode::Writable:
+      return base | S_IWUSR;
+    case FinalMode::LikeTarget:
+      break;
+  }
+  return base;
+}
+
+// The sidecar opened for locking: created when missing, never through a link
+// and never a FIFO or device someone planted there (O_NONBLOCK keeps the open
+// of a FIFO from hanging).
+int openLockFile(const std::string& sidecar) {
+  const int flags = O_RDONLY | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK;
+  int fd = ::open(sidecar.c_str(), flags | O_CREAT, 0666);
+  // A directory this user may not write still has its sidecar when someone made it.
+  if (fd < 0 && (errno == EACCES || errno == EROFS)) fd = ::open(sidecar.c_str(), flags);
+  if (fd < 0) return -1;
+  struct stat info;
+  if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+    ::close(fd);
+    errno = EINVAL;
+    return -1;
+  }
+  return fd;
+}
 
 FileAttributes fromStat(const struct stat& info) {
   FileAttributes attributes;
@@ -216,18 +268,68 @@ class PosixOs : public Os {
     return writeWithFlags(path, data, O_WRONLY | O_CREAT | O_TRUNC, err);
   }
 
-  bool appendFile(const std::string& path, const std::string& data, std::string* err) override {
-    return writeWithFlags(path, data, O_WRONLY | O_CREAT | O_APPEND, err);
-  }
-
-  std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) override {
-    int flags = access == FileAccess::Read ? O_RDONLY : O_WRONLY | O_CREAT | O_TRUNC;
-    int fd = ::open(path.c_str(), flags, 0666);
+  std::unique_ptr<OsFile> openFile(const std::string& path, std::string* err) override {
+    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0) {
       fail(err, "open", path);
       return nullptr;
     }
     return std::make_unique<PosixFile>(fd, path);
+  }
+
+  std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
+                                        bool* existed, std::string* err) override {
+    // O_EXCL refuses anything at path, a dangling link included; O_NOFOLLOW says so twice.
+    int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+    *existed = fd < 0 && errno == EEXIST;
+    if (fd < 0) {
+      fail(err, "open", path);
+      return nullptr;
+    }
+    auto file = std::make_unique<PosixFile>(fd, path);
+    struct stat info;
+    bool like = !likeFile.empty() && ::lstat(likeFile.c_str(), &info) == 0 && S_ISREG(info.st_mode);
+    if (!like && ::fstat(fd, &info) != 0) {  // the defaults: what the umask left of 0666
+      fail(err, "fstat", path);
+      file.reset();
+      ::unlink(path.c_str());
+      return nullptr;
+    }
+    // Set on the open file before any byte is written, so the file never has another mode under its final name.
+    if (::fchmod(fd, finalMode(info.st_mode & 0777, mode)) != 0) {
+      fail(err, "fchmod", path);
+      file.reset();
+      ::unlink(path.c_str());
+      return nullptr;
+    }
+    return file;
+  }
+
+  LockAttempt tryLock(const std::string& path, std::unique_ptr<OsLock>* lock, std::string* err) override {
+    std::string sidecar = lockFilePathFor(path);
+    int fd = openLockFile(sidecar);
+    if (fd < 0) {
+      fail(err, "cannot lock: open", sidecar);
+      return LockAttempt::Failed;
+    }
+    if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
+      *lock = std::make_unique<PosixLock>(fd);
+      return LockAttempt::Taken;
+    }
+    int code = errno;
+    ::close(fd);
+    if (code == EWOULDBLOCK || code == EINTR) return LockAttempt::Busy;
+    errno = code;
+    fail(err, "cannot lock: flock", sidecar);
+    return LockAttempt::Failed;
+  }
+
+  void sleepMilliseconds(int milliseconds) override {
+    struct timespec pause;
+    pause.tv_sec = milliseconds / 1000;
+    pause.tv_nsec = static_cast<long>(milliseconds % 1000) * 1000000L;
+    while (::nanosleep(&pause, &pause) != 0 && errno == EINTR) {
+    }
   }
 
   bool exists(const std::string& path) override {
@@ -237,18 +339,25 @@ class PosixOs : public Os {
 
   bool attributes(const std::string& path, FileAttributes* out, std::string* err) override {
     struct stat info;
-    if (::stat(path.c_str(), &info) != 0) return fail(err, "stat", path);
+    if (::lstat(path.c_str(), &info) != 0) return fail(err, "stat", path);
+    bool isLink = S_ISLNK(info.st_mode);
+    if (isLink && ::stat(path.c_str(), &info) != 0) return fail(err, "stat", path);
     *out = fromStat(info);
+    out->isLink = isLink;
     return true;
   }
 
   bool setReadOnly(const std::string& path, bool readOnly, std::string* err) override {
+    // On the open file, so that a link planted at path is never followed.
+    int fd = ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return fail(err, "chmod", path);
     struct stat info;
-    if (::stat(path.c_str(), &info) != 0) return fail(err, "stat", path);
-    mode_t mode = info.st_mode & 07777;
-    mode = readOnly ? (mode & ~static_cast<mode_t>(0222)) : (mode | S_IWUSR);
-    if (::chmod(path.c_str(), mode) != 0) return fail(err, "chmod", path);
-    return true;
+    bool ok = ::fstat(fd, &info) == 0 &&
+              ::fchmod(fd, finalMode(info.st_mode & 07777, readOnly ? FinalMode::ReadOnly : FinalMode::Writable)) == 0;
+    int code = errno;
+    ::close(fd);
+    errno = code;
+    return ok || fail(err, "chmod", path);
   }
 
   bool setModified(const std::string& path, int64_t modified, std::string* err) override {
@@ -312,26 +421,9 @@ class PosixOs : public Os {
   }
 
   bool replaceFile(const std::string& from, const std::string& to, std::string* err) override {
+    // rename() replaces a link at `to` itself, and needs no write permission on a read-only target.
     if (::rename(from.c_str(), to.c_str()) != 0) return fail(err, "rename", from + " to " + to);
     return true;
-  }
-
-  bool copyFile(const std::string& from, const std::string& to, bool failIfExists, std::string* err) override {
-    FileAttributes source;
-    if (!attributes(from, &source, err)) return false;
-    std::string data;
-    if (!readFile(from, &data, err)) return false;
-    int flags = O_WRONLY | O_CREAT | O_TRUNC | (failIfExists ? O_EXCL : 0);
-    if (!failIfExists && exists(to)) {
-      FileAttributes target;
-      // Windows refuses to overwrite a read-only file.
-      if (attributes(to, &target, nullptr) && target.readOnly) {
-        errno = EACCES;
-        return fail(err, "copy", from + " to " + to);
-      }
-    }
-    if (!writeWithFlags(to, data, flags, err)) return false;
-    return setModified(to, source.modified, err) && setReadOnly(to, source.readOnly, err);
   }
 
   std::string currentDirectory() override {
@@ -344,10 +436,13 @@ class PosixOs : public Os {
     return true;
   }
 
+  // The login name first, as a shell shows it: accounts shared through sudo or
+  // containers often have no name of their own, or the same one for everybody.
   std::string userName() override {
+    for (const char* variable : {"LOGNAME", "USER"})
+      if (const char* user = std::getenv(variable); user && *user) return user;
     if (struct passwd* entry = ::getpwuid(::geteuid())) return entry->pw_name;
-    const char* user = std::getenv("USER");
-    return user ? user : "";
+    return "";
   }
 
   SystemTime localTime() override {

@@ -59,6 +59,22 @@ class FileHandle {
   HANDLE handle_;
 };
 
+int64_t toUnixSeconds(const FILETIME& time) {
+  ULARGE_INTEGER value;
+  value.LowPart = time.dwLowDateTime;
+  value.HighPart = time.dwHighDateTime;
+  return static_cast<int64_t>(value.QuadPart / 10000000ULL) - 11644473600LL;
+}
+
+FILETIME fromUnixSeconds(int64_t seconds) {
+  ULARGE_INTEGER value;
+  value.QuadPart = static_cast<ULONGLONG>(seconds + 11644473600LL) * 10000000ULL;
+  FILETIME time;
+  time.dwLowDateTime = value.LowPart;
+  time.dwHighDateTime = value.HighPart;
+  return time;
+}
+
 class WindowsFile : public OsFile {
  public:
   WindowsFile(HANDLE handle, std::string path) : file_(handle), path_(std::move(path)) {}
@@ -77,6 +93,11 @@ class WindowsFile : public OsFile {
     return true;
   }
 
+  bool setModified(int64_t modified, std::string* err) override {
+    FILETIME time = fromUnixSeconds(modified);
+    return SetFileTime(file_.get(), nullptr, nullptr, &time) || fail(err, "SetFileTime", path_);
+  }
+
   bool close(std::string* err) override { return file_.close() || fail(err, "CloseHandle", path_); }
 
  private:
@@ -84,21 +105,16 @@ class WindowsFile : public OsFile {
   std::string path_;
 };
 
-int64_t toUnixSeconds(const FILETIME& time) {
-  ULARGE_INTEGER value;
-  value.LowPart = time.dwLowDateTime;
-  value.HighPart = time.dwHighDateTime;
-  return static_cast<int64_t>(value.QuadPart / 10000000ULL) - 11644473600LL;
-}
+// A byte-range lock on the sidecar, which the system drops with the handle when
+// the process dies. LockFile rather than LockFileEx: Windows 95 has only the first.
+class WindowsLock : public OsLock {
+ public:
+  explicit WindowsLock(HANDLE handle) : file_(handle) {}
+  ~WindowsLock() override { UnlockFile(file_.get(), 0, 0, 1, 0); }
 
-FILETIME fromUnixSeconds(int64_t seconds) {
-  ULARGE_INTEGER value;
-  value.QuadPart = static_cast<ULONGLONG>(seconds + 11644473600LL) * 10000000ULL;
-  FILETIME time;
-  time.dwLowDateTime = value.LowPart;
-  time.dwHighDateTime = value.HighPart;
-  return time;
-}
+ private:
+  FileHandle file_;
+};
 
 FileAttributes fromFindData(const WIN32_FIND_DATAA& data) {
   FileAttributes attributes;
@@ -140,9 +156,8 @@ LCID localeOf(LocaleChoice choice) { return choice == LocaleChoice::User ? LOCAL
 
 DWORD overrideFlag(LocaleChoice choice) { return choice == LocaleChoice::System ? LOCALE_NOUSEROVERRIDE : 0; }
 
-bool writeWithDisposition(const std::string& path, const std::string& data, DWORD disposition, bool append,
-                          std::string* err) {
-  FileHandle file(CreateFileA(path.c_str(), append ? FILE_APPEND_DATA : GENERIC_WRITE, 0, nullptr, disposition,
+bool writeWithDisposition(const std::string& path, const std::string& data, DWORD disposition, std::string* err) {
+  FileHandle file(CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, disposition,
                               FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file.valid()) return fail(err, "CreateFileA", path);
   DWORD written = 0;
@@ -170,19 +185,15 @@ class WindowsOs : public Os {
   }
 
   bool writeFile(const std::string& path, const std::string& data, std::string* err) override {
-    return writeWithDisposition(path, data, CREATE_ALWAYS, false, err);
+    return writeWithDisposition(path, data, CREATE_ALWAYS, err);
   }
 
-  bool appendFile(const std::string& path, const std::string& data, std::string* err) override {
-    return writeWithDisposition(path, data, OPEN_ALWAYS, true, err);
-  }
-
-  std::unique_ptr<OsFile> openFile(const std::string& path, FileAccess access, std::string* err) override {
-    bool reading = access == FileAccess::Read;
+  std::unique_ptr<OsFile> openFile(const std::string& path, std::string* err) override {
     HANDLE handle = INVALID_HANDLE_VALUE;
+    // Sharing deletion lets a writer rename its new version over the file being read.
     retryOnSharing([&] {
-      handle = CreateFileA(path.c_str(), reading ? GENERIC_READ : GENERIC_WRITE, reading ? FILE_SHARE_READ : 0,
-                           nullptr, reading ? OPEN_EXISTING : CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+      handle = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                           FILE_ATTRIBUTE_NORMAL, nullptr);
       return handle != INVALID_HANDLE_VALUE ? TRUE : FALSE;
     });
     if (handle == INVALID_HANDLE_VALUE) {
@@ -192,6 +203,50 @@ class WindowsOs : public Os {
     return std::make_unique<WindowsFile>(handle, path);
   }
 
+  std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
+                                        bool* existed, std::string* err) override {
+    DWORD like = likeFile.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesA(likeFile.c_str());
+    bool readOnly = mode == FinalMode::ReadOnly ||
+                    (mode == FinalMode::LikeTarget && like != INVALID_FILE_ATTRIBUTES &&
+                     (like & FILE_ATTRIBUTE_READONLY) != 0);
+    // CREATE_NEW fails on anything already there; a read-only file so created
+    // still gives this handle the right to write.
+    HANDLE handle = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                readOnly ? FILE_ATTRIBUTE_READONLY : FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+      DWORD code = GetLastError();
+      *existed = code == ERROR_FILE_EXISTS || code == ERROR_ALREADY_EXISTS;
+      fail(err, "CreateFileA", path);
+      return nullptr;
+    }
+    *existed = false;
+    return std::make_unique<WindowsFile>(handle, path);
+  }
+
+  LockAttempt tryLock(const std::string& path, std::unique_ptr<OsLock>* lock, std::string* err) override {
+    std::string sidecar = lockFilePathFor(path);
+    HANDLE handle = CreateFileA(sidecar.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) {
+      // Another process creating the sidecar at this moment.
+      if (GetLastError() == ERROR_SHARING_VIOLATION) return LockAttempt::Busy;
+      fail(err, "cannot lock: CreateFileA", sidecar);
+      return LockAttempt::Failed;
+    }
+    if (LockFile(handle, 0, 0, 1, 0)) {
+      *lock = std::make_unique<WindowsLock>(handle);
+      return LockAttempt::Taken;
+    }
+    DWORD code = GetLastError();
+    CloseHandle(handle);
+    if (code == ERROR_LOCK_VIOLATION || code == ERROR_SHARING_VIOLATION) return LockAttempt::Busy;
+    SetLastError(code);
+    fail(err, "cannot lock: LockFile", sidecar);
+    return LockAttempt::Failed;
+  }
+
+  void sleepMilliseconds(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
+
   bool exists(const std::string& path) override { return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
   bool attributes(const std::string& path, FileAttributes* out, std::string* err) override {
@@ -200,6 +255,7 @@ class WindowsOs : public Os {
       return fail(err, "GetFileAttributesExA", path);
     out->isDirectory = (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
     out->readOnly = (data.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+    out->isLink = (data.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
     out->modified = toUnixSeconds(data.ftLastWriteTime);
     out->size = (static_cast<uint64_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
     return true;
@@ -263,14 +319,16 @@ class WindowsOs : public Os {
   }
 
   bool replaceFile(const std::string& from, const std::string& to, std::string* err) override {
-    if (!retryOnSharing([&] { return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING); }))
-      return fail(err, "MoveFileExA", from + " to " + to);
-    return true;
-  }
-
-  bool copyFile(const std::string& from, const std::string& to, bool failIfExists, std::string* err) override {
-    if (!retryOnSharing([&] { return CopyFileA(from.c_str(), to.c_str(), failIfExists ? TRUE : FALSE); }))
-      return fail(err, "CopyFileA", from + " to " + to);
+    // Windows replaces no read-only file: the attribute is lifted for the moment
+    // of the rename (the new version carries its own) and put back on failure.
+    DWORD target = GetFileAttributesA(to.c_str());
+    bool lifted = target != INVALID_FILE_ATTRIBUTES && (target & FILE_ATTRIBUTE_READONLY) != 0 &&
+                  SetFileAttributesA(to.c_str(), target & ~FILE_ATTRIBUTE_READONLY);
+    if (!retryOnSharing([&] { return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING); })) {
+      bool failed = fail(err, "MoveFileExA", from + " to " + to);
+      if (lifted) SetFileAttributesA(to.c_str(), target);
+      return failed;
+    }
     return true;
   }
 

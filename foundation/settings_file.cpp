@@ -40,6 +40,17 @@ bool SettingsFile::read(const std::string& keyPath, const std::string& name, siz
 }
 
 bool SettingsFile::write(const std::string& keyPath, const std::string& name, const std::string& text) {
+  std::string why;
+  if (!os().makeDirectories(directoryOf(path_), &why)) {
+    error_ = why;
+    return false;
+  }
+  // Held from the read to the rename: two processes setting two values at once keep both.
+  std::unique_ptr<OsLock> lock = os().lock(path_, &why);
+  if (!lock) {
+    error_ = why;
+    return false;
+  }
   RegeditDocument document;
   if (!load(&document)) return false;
   RegeditKey& key = document.findOrAddKey(kHive + keyPath);
@@ -47,8 +58,7 @@ bool SettingsFile::write(const std::string& keyPath, const std::string& name, co
     value->text = text;
   else
     key.values.push_back(RegeditValue{name, text});
-  std::string why;
-  if (!os().makeDirectories(directoryOf(path_), &why) || !os().writeFileAtomic(path_, formatRegedit(document), &why)) {
+  if (!os().writeFileAtomic(path_, formatRegedit(document), &why)) {
     error_ = why;
     return false;
   }

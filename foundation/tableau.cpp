@@ -10,14 +10,6 @@ namespace {
 // that many bytes, so a corrupt count cannot exhaust memory.
 constexpr int32_t kPlausibleCount = 1 << 16;
 
-long remainingBytes(FILE* file) {
-  long here = std::ftell(file);
-  if (here < 0 || std::fseek(file, 0, SEEK_END) != 0) return -1;
-  long end = std::ftell(file);
-  std::fseek(file, here, SEEK_SET);
-  return end < here ? 0 : end - here;
-}
-
 int compareText(const void* a, const void* b) {
   Basic* left = *static_cast<Basic* const*>(a);
   Basic* right = *static_cast<Basic* const*>(b);
@@ -147,20 +139,17 @@ void BasicTableau::sortByText(int32_t from, int32_t n) { sort(compareText, from,
 
 void BasicTableau::sortByNumber(int32_t from, int32_t n) { sort(compareNumber, from, n); }
 
-int BasicTableau::fWrite(FILE* file) {
+int BasicTableau::fWrite(ByteStream& file) {
   if (!writeI32(file, count_)) return 0;
   for (int32_t i = 0; i < count_; ++i)
     if (!items_[i] || !items_[i]->fWrite(file)) return 0;
   return 1;
 }
 
-bool BasicTableau::beginRead(FILE* file) {
+bool BasicTableau::beginRead(ByteStream& file) {
   removeRange(0, 0);
   int32_t stored = 0;
   if (!readI32(file, &stored) || stored < 0) return false;
-  if (stored > kPlausibleCount) {
-    long left = remainingBytes(file);
-    if (left < 0 || stored > left) return false;
-  }
+  if (stored > kPlausibleCount && static_cast<size_t>(stored) > file.remaining()) return false;
   return openGap(0, stored);
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 
 #include "foundation/basic.h"
 #include "foundation/binary_io.h"
@@ -52,11 +51,11 @@ class BasicTableau : public Basic {
   void sort(Comparison comparison, int32_t from = 0, int32_t n = 0);
 
   // File form: the count as signed 32-bit, then each element's own form.
-  int fWrite(FILE* file) override;
+  int fWrite(ByteStream& file) override;
 
  protected:
   // Shared by Tableau<T>::fRead: clears, reads the count and opens that many null slots.
-  bool beginRead(FILE* file);
+  bool beginRead(ByteStream& file);
 
  private:
   void shrinkAfterRemoval();
@@ -76,7 +75,7 @@ class Tableau : public BasicTableau {
 
   // Reads the count, opens that many null slots, then reads each element with
   // T's default constructor. Stops at the first failure: later slots stay null.
-  int fRead(FILE* file) override {
+  int fRead(ByteStream& file) override {
     if (!beginRead(file)) return 0;
     for (int32_t i = 0; i < count(); ++i) {
       T* element = new T();

@@ -19,18 +19,11 @@ class SilentAlerts : public AlertHandler {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static SilentAlerts silent;
   setAlertHandler(&silent);
-  FILE* file = std::tmpfile();
-  if (!file) return 0;
-  std::fwrite(data, 1, size, file);
-  std::rewind(file);
+  ByteStream file(std::string(reinterpret_cast<const char*>(data), size));
   Tableau<String> table;
   if (table.fRead(file)) {
-    FILE* out = std::tmpfile();
-    if (out) {
-      table.fWrite(out);
-      std::fclose(out);
-    }
+    ByteStream out;
+    table.fWrite(out);
   }
-  std::fclose(file);
   return 0;
 }

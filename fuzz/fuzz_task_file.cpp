@@ -1,34 +1,23 @@
 // Feeds arbitrary bytes to the task file reader, then writes what it kept and
 // reads that back: a list that was read must survive its own round trip.
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 
+#include "foundation/binary_io.h"
 #include "tasks/task_list.h"
 
 namespace {
 
 std::string writeList(TaskList& list) {
-  char* buffer = nullptr;
-  size_t size = 0;
-  FILE* file = open_memstream(&buffer, &size);
-  if (!file) std::abort();
+  ByteStream file;
   if (!list.writeTo(file)) std::abort();
-  std::fclose(file);
-  std::string bytes(buffer, size);
-  std::free(buffer);
-  return bytes;
+  return file.bytes();
 }
 
 bool readList(TaskList& list, const uint8_t* data, size_t size) {
-  // fmemopen refuses an empty buffer; an empty file then reads as nothing.
-  if (size == 0) return false;
-  FILE* file = fmemopen(const_cast<uint8_t*>(data), size, "rb");
-  if (!file) std::abort();
-  bool complete = list.readFrom(file);
-  std::fclose(file);
-  return complete;
+  ByteStream file(std::string(reinterpret_cast<const char*>(data), size));
+  return list.readFrom(file);
 }
 
 }  // namespace

@@ -39,6 +39,8 @@ bool GwGetPresenter::get() {
   // An empty name when the system cannot tell it: the lock is then taken without a record.
   std::string user = os().userName().substr(0, kMaxUserName);
   runAction(total, settings_.mailOnGet, "Groupware GET : project ",
-            [&user](GwTransfer& transfer, const EltGWget& element) { transfer.get(element, user); });
+            [this, &user](GwTransfer& transfer, const EltGWget& element) {
+              transfer.get(element, user, refuseOthersLocks);
+            });
   return true;
 }

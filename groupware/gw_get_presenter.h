@@ -21,6 +21,10 @@ class GwGetPresenter : public GwListPresenter<EltGWget> {
   // "GET !" (105): false when no row had a request. Locks taken carry the OS's user name.
   bool get();
 
+  // A copy that someone else locked after the list was made: refused, or
+  // taken over as the dialog always has.
+  bool refuseOthersLocks = false;
+
  protected:
   void fillList() override;
   std::string rowText(const EltGWget& element) const override { return getRowText(element, roots_); }

@@ -2,6 +2,7 @@
 #include "groupware/gw_list_presenter.h"
 
 #include "foundation/alert.h"
+#include "foundation/os.h"
 #include "groupware/tree_scan.h"
 #include "navigation/search_places.h"
 #include "tasks/task_notification.h"
@@ -15,11 +16,16 @@ bool groupwareRoots(Host& host, const GroupwareSettings& settings, GwRoots* root
   SearchPlaces places = searchPlaces(host, "");
   roots->project = normalizeRoot(places.projectDirectory);
   roots->server = normalizeRoot(searchDirectory(places, settings.server.str()));
+  FileAttributes server;
+  if (!os().attributes(roots->server, &server, nullptr) || !server.isDirectory) {
+    alert("Server directory " + roots->server + " does not exist", "Kesto AddOn error", kAlertIconExclamation);
+    return false;
+  }
   return true;
 }
 
-void mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
+bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
                          const std::string& report) {
-  if (flag == 0 || report.empty() || mail.recipients.count() == 0) return;
-  mail.send(host, subjectStart + projectNameOf(host.projectFile()), report, "");
+  if (flag == 0 || report.empty() || mail.recipients.count() == 0) return true;
+  return mail.send(host, subjectStart + projectNameOf(host.projectFile()), report, "") != 0;
 }

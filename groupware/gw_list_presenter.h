@@ -17,12 +17,15 @@
 
 // The open project's roots: its directory and its server directory (a relative
 // one is taken from the project directory). False after the box that asks for a
-// server directory when the project has none.
+// server directory when the project has none, or that says the one it has does
+// not exist: a mistyped server directory is never created, so nobody believes
+// he shared what went nowhere.
 bool groupwareRoots(Host& host, const GroupwareSettings& settings, GwRoots* roots);
 
 // Mails report with subjectStart + the project name when flag is set, the
-// report is not empty and the project has a recipient.
-void mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
+// report is not empty and the project has a recipient. False when that mail
+// did not go out.
+bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
                          const std::string& report);
 
 template <typename Elt>
@@ -36,6 +39,8 @@ class GwListPresenter {
   const GwRoots& roots() const { return roots_; }
   // The report lines of the last action.
   const std::string& report() const { return report_; }
+  // What failed in the last action: transfers in part, and its mail.
+  int failures() const { return failures_; }
 
   bool isSelected(int32_t row) const { return row >= 0 && row < rowCount() && selected_[row]; }
   // Rows out of range are ignored.
@@ -106,10 +111,11 @@ class GwListPresenter {
       for (int32_t i = 0; i < list_.count(); ++i)
         if (selected_[i]) transfer(transferrer, *list_[i]);
       report_ = transferrer.report();
+      failures_ = transferrer.failures();
     }
     refill();
     host_.setBusy(false);
-    mailGroupwareReport(host_, mail_, mailFlag, subjectStart, report_);
+    if (!mailGroupwareReport(host_, mail_, mailFlag, subjectStart, report_)) ++failures_;
   }
 
   Host& host_;
@@ -122,4 +128,5 @@ class GwListPresenter {
   std::vector<std::string> rows_;
   std::vector<bool> selected_;
   std::string report_;
+  int failures_ = 0;
 };

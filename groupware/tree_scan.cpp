@@ -16,7 +16,9 @@ void scanTree(const std::string& root, const std::string& filters,
   DirectoryWalker walker(true);
   for (const std::string& mask : splitMasks(filters)) {
     walker.walk(root, mask, [&visit](const std::string& path) {
-      visit(path);
+      // The system's own lock sidecars and unfinished copies are not shared files.
+      std::string name = fileNameOf(path);
+      if (!isTemporaryName(name) && !isLockFileName(name)) visit(path);
       return true;
     });
   }

@@ -17,8 +17,8 @@ class QuickResu : public Basic {
   // What the results menu shows: "Class::Name" for a method, the whole line for a reference.
   std::string text() const { return text_.str(); }
 
-  int fWrite(FILE* file) override;
-  int fRead(FILE* file) override;
+  int fWrite(ByteStream& file) override;
+  int fRead(ByteStream& file) override;
   operator char*() override { return static_cast<char*>(text_); }
 
  private:

@@ -8,7 +8,7 @@ namespace {
 const char* const kLowerWords[kTaskStateCount] = {"to do", "coded", "tested", "ended"};
 const char* const kUpperWords[kTaskStateCount] = {"TO DO", "CODED", "TESTED", "ENDED"};
 
-bool writeDate(FILE* file, const SystemTime& date) {
+bool writeDate(ByteStream& file, const SystemTime& date) {
   const uint16_t fields[] = {date.year,   date.month,  date.dayOfWeek, date.day,
                              date.hour,   date.minute, date.second,    date.milliseconds};
   for (uint16_t field : fields)
@@ -16,7 +16,7 @@ bool writeDate(FILE* file, const SystemTime& date) {
   return true;
 }
 
-bool readDate(FILE* file, SystemTime* date) {
+bool readDate(ByteStream& file, SystemTime* date) {
   uint16_t* fields[] = {&date->year, &date->month,  &date->dayOfWeek, &date->day,
                         &date->hour, &date->minute, &date->second,    &date->milliseconds};
   for (uint16_t* field : fields)
@@ -40,14 +40,14 @@ void Task::appendRowText(std::string* out) const {
           '\t' + shortDate(start) + '\t' + shortDate(end);
 }
 
-int Task::fWrite(FILE* file) {
+int Task::fWrite(ByteStream& file) {
   bool ok = writeI32(file, 0) && name.fWrite(file) && type.fWrite(file) && writeI32(file, state) &&
             writeI32(file, isPublic) && writeI32(file, isPublic) && writeI32(file, priority) &&
             writeDate(file, start) && writeDate(file, end) && text.fWrite(file);
   return ok ? 1 : 0;
 }
 
-int Task::fRead(FILE* file) {
+int Task::fRead(ByteStream& file) {
   int32_t version = 0;
   if (!readI32(file, &version) || version != 0) return 0;
   // The public flag is stored twice; the second copy is the one that counts.

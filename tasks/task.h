@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <string>
 
 #include "foundation/basic.h"
@@ -36,9 +35,9 @@ class Task : public Basic {
 
   // The record: version 0, name, type, state, the public flag twice, priority,
   // both dates and the text.
-  int fWrite(FILE* file) override;
+  int fWrite(ByteStream& file) override;
   // 0 on a record version other than 0 or a record cut short; 1 otherwise.
-  int fRead(FILE* file) override;
+  int fRead(ByteStream& file) override;
 };
 
 // The user's short date of a task date.

@@ -2,15 +2,16 @@
 #include <memory>
 
 #include "foundation/binary_io.h"
-#include "tasks/file_handle.h"
 #include "tasks/task_list.h"
 
 void TaskList::load() {
-  FileHandle file(std::fopen(filePath.c_str(), "rb"));
-  if (file) readFrom(file.get());
+  std::string bytes;
+  if (!os().readFile(filePath.str(), &bytes, nullptr)) return;
+  ByteStream file(std::move(bytes));
+  readFrom(file);
 }
 
-bool TaskList::readFrom(FILE* file) {
+bool TaskList::readFrom(ByteStream& file) {
   int32_t version = 0;
   if (!readI32(file, &version) || version < 0 || version > kFileVersion) return false;
   int32_t flags[kTaskStateCount];
@@ -49,7 +50,7 @@ bool TaskList::readFrom(FILE* file) {
   return complete;
 }
 
-bool TaskList::writeTo(FILE* file) {
+bool TaskList::writeTo(ByteStream& file) {
   bool ok = writeI32(file, kFileVersion);
   for (int32_t flag : showFlags) ok = ok && writeI32(file, flag);
   ok = ok && writeI32(file, reverse) && writeI32(file, sortKey) && types.fWrite(file) && writeI32(file, count());
@@ -58,23 +59,11 @@ bool TaskList::writeTo(FILE* file) {
 }
 
 bool TaskList::save(std::string* err) {
-  std::string path = filePath.str();
-  std::string temporary = temporaryPathFor(path);
-  FileHandle file(std::fopen(temporary.c_str(), "wb"));
-  if (!file) {
-    if (err) *err = "cannot create " + temporary;
+  ByteStream file;
+  if (!writeTo(file)) {
+    if (err) *err = "cannot write the tasks of " + filePath.str();
     return false;
   }
-  bool written = writeTo(file.get());
-  written = std::fclose(file.release()) == 0 && written;
-  if (!written) {
-    if (err) *err = "cannot write " + temporary;
-    os().removeFile(temporary, nullptr);
-    return false;
-  }
-  if (!os().replaceFile(temporary, path, err)) {
-    os().removeFile(temporary, nullptr);
-    return false;
-  }
-  return true;
+  std::unique_ptr<OsLock> lock = os().lock(filePath.str(), err);
+  return lock && os().writeFileAtomic(filePath.str(), file.bytes(), err);
 }

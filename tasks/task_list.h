@@ -44,8 +44,8 @@ class TaskList : public Ensemble<Task> {
   // with the reason in *err when it cannot be written; the old file then stays.
   bool save(std::string* err);
   // The file form on an open stream (load and save use them; so does the fuzz target).
-  bool readFrom(FILE* file);
-  bool writeTo(FILE* file);
+  bool readFrom(ByteStream& file);
+  bool writeTo(ByteStream& file);
 
   void rebuildView();
   // Position of a task in the view; kNotFound when it is not shown.

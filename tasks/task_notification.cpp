@@ -3,7 +3,6 @@
 
 #include "foundation/alert.h"
 #include "foundation/os.h"
-#include "tasks/file_handle.h"
 #include "tasks/project_files.h"
 
 namespace {
@@ -23,16 +22,18 @@ std::string projectNameOf(const std::string& projectFile) {
 }
 
 bool appendTaskNotification(const std::string& path, const Task& task, std::string* err) {
+  // Under the file's lock from the read to the rename, so that two tasks ended
+  // at once by two processes are both kept.
+  std::unique_ptr<OsLock> lock = os().lock(path, err);
+  if (!lock) return false;
   std::string text;
-  if (!os().exists(path)) text += kRule + "\n  NOTIFICATIONS FOR ENDED TASKS\n";
-  text += kRule + "\n*** Task : " + task.name.str() + " ***\n" + task.text.str() + "\n";
+  if (os().exists(path) && !os().readFile(path, &text, err)) return false;
+  std::string added;
+  if (text.empty()) added += kRule + "\n  NOTIFICATIONS FOR ENDED TASKS\n";
+  added += kRule + "\n*** Task : " + task.name.str() + " ***\n" + task.text.str() + "\n";
   // Text mode on purpose: on Windows every line feed becomes CR LF, also the
   // one of each CR LF inside a description.
-  FileHandle file(std::fopen(path.c_str(), "at"));
-  bool written = file && std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
-  if (file) written = std::fclose(file.release()) == 0 && written;
-  if (!written && err) *err = "cannot append to " + path;
-  return written;
+  return os().writeFileAtomic(path, text + platformText(added), err);
 }
 
 void notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host) {

@@ -188,8 +188,7 @@ TEST_F(DeliveryRunTest, EachFailingOsCallNamesItsFileAndLeavesOtherFilesDelivere
     if (libDelivered) {
       EXPECT_EQ("library", dir.read("lib/lib.dll"));
     }
-    EXPECT_FALSE(platformOs().exists(dir.file("bin/app.exe.kesto-tmp")));
-    EXPECT_FALSE(platformOs().exists(dir.file("lib/lib.dll.kesto-tmp")));
+    EXPECT_EQ("", dir.temporariesLeft());
     if (outcome == DeliveryOutcome::Failed) {
       ASSERT_EQ(1u, alerts.boxes.size()) << "failure at OS call " << failAt;
       EXPECT_EQ(0u, alerts.boxes[0].text.find("Error in ")) << alerts.boxes[0].text;

@@ -26,7 +26,7 @@ TEST(FileCopyTest, CopiesEveryByteWithTheSourceTimeAndReportsEachBlock) {
   {
     CopyProgress progress(host, data.size() + 100);
     std::string err;
-    EXPECT_EQ(CopyFailure::None, copyFileWithProgress(dir.file("src/app.exe"), dir.file("dest/app.exe"), progress, &err))
+    EXPECT_EQ(CopyFailure::None, copyFileWithProgress(dir.file("src/app.exe"), dir.file("dest/app.exe"), FinalMode::LikeTarget, progress, &err))
         << err;
     EXPECT_EQ(data.size(), progress.done());
   }
@@ -40,7 +40,7 @@ TEST(FileCopyTest, CopiesEveryByteWithTheSourceTimeAndReportsEachBlock) {
   EXPECT_EQ(data.size() + 100, host.progress[3].total);
   EXPECT_EQ("app.exe", host.progress[3].item);
   EXPECT_EQ(1, host.progressEnds);
-  EXPECT_FALSE(platformOs().exists(dir.file("dest/app.exe.kesto-tmp")));
+  EXPECT_EQ("", dir.temporariesLeft());
 }
 
 TEST(FileCopyTest, EachFailingCallKeepsTheOldTargetNamesTheFailureAndCountsTheWholeFile) {
@@ -57,7 +57,7 @@ TEST(FileCopyTest, EachFailingCallKeepsTheOldTargetNamesTheFailureAndCountsTheWh
     FakeHost host;
     CopyProgress progress(host, data.size());
     std::string err;
-    CopyFailure failure = copyFileWithProgress(dir.file("src/app.exe"), dir.file("dest/app.exe"), progress, &err);
+    CopyFailure failure = copyFileWithProgress(dir.file("src/app.exe"), dir.file("dest/app.exe"), FinalMode::LikeTarget, progress, &err);
     succeeded = failure == CopyFailure::None;
     std::string target = dir.read("dest/app.exe");
     if (succeeded) {
@@ -69,7 +69,7 @@ TEST(FileCopyTest, EachFailingCallKeepsTheOldTargetNamesTheFailureAndCountsTheWh
     }
     // The first call learns the size: failing there leaves nothing to count.
     EXPECT_EQ(failAt == 1 ? 0 : data.size(), progress.done()) << "failure at OS call " << failAt;
-    EXPECT_FALSE(platformOs().exists(dir.file("dest/app.exe.kesto-tmp"))) << "failure at OS call " << failAt;
+    EXPECT_EQ("", dir.temporariesLeft()) << "failure at OS call " << failAt;
   }
 }
 
@@ -78,7 +78,7 @@ TEST(FileCopyTest, AMissingSourceIsAnOpeningErrorAndCreatesNothing) {
   FakeHost host;
   CopyProgress progress(host, 0);
   std::string err;
-  EXPECT_EQ(CopyFailure::OpenSource, copyFileWithProgress(dir.file("none.exe"), dir.file("out.exe"), progress, &err));
+  EXPECT_EQ(CopyFailure::OpenSource, copyFileWithProgress(dir.file("none.exe"), dir.file("out.exe"), FinalMode::LikeTarget, progress, &err));
   EXPECT_STREQ("Error in opening file ", copyFailureText(CopyFailure::OpenSource));
   EXPECT_FALSE(platformOs().exists(dir.file("out.exe")));
 }

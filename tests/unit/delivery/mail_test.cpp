@@ -37,7 +37,7 @@ TEST_F(MailTest, AbsentIncludedFileGivesTheBodyAlone) {
 }
 
 TEST_F(MailTest, IncludedFileIsAppendedAndDeletedOnlyAfterASuccessfulSend) {
-  platformOs().writeTextFile(notes, "first \xe9\nlast line without end", nullptr);
+  platformOs().writeTextFileAtomic(notes, "first \xe9\nlast line without end", nullptr);
   host.mailResult = MailResult::Failed;
   EXPECT_EQ(mail.send(host, "S", "Body\n", notes), 0);
   EXPECT_TRUE(alerts.boxes.empty()) << "the caller reports a failed sending";

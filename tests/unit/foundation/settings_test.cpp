@@ -103,6 +103,6 @@ TEST_F(SettingsTest, AFailingOsCallLeavesTheOldFileWhole) {
       break;
     }
     EXPECT_EQ(after, before) << "failure at OS call " << failAt;
-    EXPECT_FALSE(os().exists(file_.path() + ".kesto-tmp")) << "failure at OS call " << failAt;
+    EXPECT_EQ("", dir_.temporariesLeft()) << "failure at OS call " << failAt;
   }
 }

@@ -115,47 +115,35 @@ TEST(TableauTest, SortsByUnsignedBytesAndByNumber) {
 }
 
 TEST(TableauTest, FileFormRoundTripsAndTruncationLeavesNullSlots) {
-  FILE* file = std::tmpfile();
-  ASSERT_NE(file, nullptr);
+  ByteStream file;
   Tableau<String> table;
   table.append(new String("one"));
   table.append(new String(""));
   ASSERT_EQ(table.fWrite(file), 1);
-  std::rewind(file);
   Tableau<String> copy;
   ASSERT_EQ(copy.fRead(file), 1);
   EXPECT_EQ(texts(copy), "one,,");
-  std::fclose(file);
 
-  FILE* truncated = std::tmpfile();
-  const unsigned char countOnly[] = {5, 0, 0, 0};
-  std::fwrite(countOnly, 1, sizeof countOnly, truncated);
-  std::rewind(truncated);
+  ByteStream truncated(std::string("\x05\x00\x00\x00", 4));
   Tableau<String> partial;
   EXPECT_EQ(partial.fRead(truncated), 0);
   EXPECT_EQ(partial.count(), 5);
   for (int32_t i = 0; i < 5; ++i) EXPECT_EQ(partial[i], nullptr);
-  std::fclose(truncated);
 }
 
 TEST(TableauTest, ImplausibleCountFailsWithoutAllocating) {
-  FILE* file = std::tmpfile();
-  const unsigned char huge[] = {0xff, 0xff, 0xff, 0x7f, 1, 0, 'a', 0};
-  std::fwrite(huge, 1, sizeof huge, file);
-  std::rewind(file);
+  ByteStream file(std::string("\xff\xff\xff\x7f\x01\x00" "a", 8));
   Tableau<String> table;
   EXPECT_EQ(table.fRead(file), 0);
   EXPECT_EQ(table.count(), 0);
-  std::fclose(file);
 }
 
 TEST(TableauTest, EnsembleCannotReadAndBaseOperationsReportThemselves) {
   RecordingAlerts alerts;
   Ensemble<String> ensemble;
-  FILE* file = std::tmpfile();
+  ByteStream file;
   EXPECT_EQ(ensemble.fRead(file), 0);
   EXPECT_EQ(static_cast<long int>(ensemble), 0);
-  std::fclose(file);
   ASSERT_EQ(alerts.boxes.size(), 2u);
   EXPECT_EQ(alerts.boxes[0].text, "Appel de Basic::fRead virtuelle pure !");
   EXPECT_EQ(alerts.boxes[1].text, "Appel de Basic::long int virtuelle pure !");

@@ -1,4 +1,5 @@
-// Transfers when the OS fails under them, and locks taken by two users in turn.
+// Transfers when the OS fails under them, refuses a chmod or finds links
+// planted at its temporaries, and locks taken by two users.
 #include "groupware/gw_get_presenter.h"
 #include "groupware/gw_send_presenter.h"
 #include "groupware/lock_file.h"
@@ -12,9 +13,10 @@ namespace {
 class SecondBlockFault : public FaultOs {
  public:
   std::string target;
-  std::unique_ptr<OsFile> openFile(const std::string& p, FileAccess a, std::string* e) override {
-    if (a == FileAccess::Write && p == temporaryPathFor(target)) failAt = calls + 1 + 4;
-    return FaultOs::openFile(p, a, e);
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool* x,
+                                        std::string* e) override {
+    if (l == target) failAt = calls + 1 + 4;
+    return FaultOs::createNewFile(p, l, m, x, e);
   }
 };
 
@@ -40,7 +42,7 @@ TEST_F(GwFaultTest, CopyFailingHalfwayKeepsTheOldCopyAppliesTheAttributesAndGoes
   EXPECT_EQ(alerts.boxes[0].text, "Error in writing file " + server("b.cpp"));
   EXPECT_EQ(alerts.boxes[0].caption, "Kesto Addon error");
   EXPECT_EQ(read(server("b.cpp")), "old");
-  EXPECT_FALSE(platformOs().exists(temporaryPathFor(server("b.cpp"))));
+  EXPECT_EQ("", dir.temporariesLeft());
   // The lock moves all the same: the server copy is free, the local one read-only.
   EXPECT_FALSE(readOnly(server("b.cpp")));
   EXPECT_TRUE(readOnly(local("b.cpp")));
@@ -71,7 +73,7 @@ TEST_F(GwFaultTest, EveryFailedCallLeavesWholeFilesAndNoTemporary) {
     presenter.get();
     std::string got = read(local("a.cpp"));
     EXPECT_TRUE(got == "local" || got == read(server("a.cpp"))) << "failing call " << failAt;
-    EXPECT_FALSE(platformOs().exists(temporaryPathFor(local("a.cpp")))) << "failing call " << failAt;
+    EXPECT_EQ("", dir.temporariesLeft()) << "failing call " << failAt;
     if (faults.calls < failAt) break;  // the action ran clean: every call has failed once
   }
 }

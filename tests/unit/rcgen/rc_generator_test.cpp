@@ -90,7 +90,7 @@ TEST(RcGeneratorTest, AFailingFileSystemGivesANamedErrorAndNoHalfWrittenFile) {
     EXPECT_TRUE(header == expected || !report.errors.empty()) << "call " << failAt;
     EXPECT_TRUE(header == expected || header == "old header" || header.find("#endif") != std::string::npos);
     for (const std::string& error : report.errors) EXPECT_NE(error.find("injected fault"), std::string::npos);
-    EXPECT_FALSE(platformOs().exists(project.file("rc.h.kesto-tmp")));
+    EXPECT_EQ("", project.temporariesLeft());
     if (faults.calls < failAt) break;
   }
 }

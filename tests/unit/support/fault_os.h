@@ -21,16 +21,21 @@ class FaultOs : public Os {
   bool writeFile(const std::string& p, const std::string& d, std::string* e) override {
     return tick(e) && platformOs().writeFile(p, d, e);
   }
-  bool appendFile(const std::string& p, const std::string& d, std::string* e) override {
-    return tick(e) && platformOs().appendFile(p, d, e);
-  }
-  // The file's reads, writes and close count as calls too.
-  std::unique_ptr<OsFile> openFile(const std::string& p, FileAccess a, std::string* e) override {
+  // The file's reads, writes, time and close count as calls too.
+  std::unique_ptr<OsFile> openFile(const std::string& p, std::string* e) override {
     if (!tick(e)) return nullptr;
-    std::unique_ptr<OsFile> file = platformOs().openFile(p, a, e);
-    if (!file) return nullptr;
-    return std::make_unique<FaultFile>(*this, std::move(file));
+    return wrap(platformOs().openFile(p, e));
   }
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool* x,
+                                        std::string* e) override {
+    *x = false;
+    if (!tick(e)) return nullptr;
+    return wrap(platformOs().createNewFile(p, l, m, x, e));
+  }
+  LockAttempt tryLock(const std::string& p, std::unique_ptr<OsLock>* l, std::string* e) override {
+    return tick(e) ? platformOs().tryLock(p, l, e) : LockAttempt::Failed;
+  }
+  void sleepMilliseconds(int m) override { platformOs().sleepMilliseconds(m); }
   bool exists(const std::string& p) override { return platformOs().exists(p); }
   bool attributes(const std::string& p, FileAttributes* o, std::string* e) override {
     return tick(e) && platformOs().attributes(p, o, e);
@@ -57,9 +62,6 @@ class FaultOs : public Os {
   bool replaceFile(const std::string& f, const std::string& t, std::string* e) override {
     return tick(e) && platformOs().replaceFile(f, t, e);
   }
-  bool copyFile(const std::string& f, const std::string& t, bool x, std::string* e) override {
-    return tick(e) && platformOs().copyFile(f, t, x, e);
-  }
   std::string currentDirectory() override { return platformOs().currentDirectory(); }
   bool setCurrentDirectory(const std::string& p, std::string* e) override {
     return tick(e) && platformOs().setCurrentDirectory(p, e);
@@ -81,6 +83,7 @@ class FaultOs : public Os {
     FaultFile(FaultOs& owner, std::unique_ptr<OsFile> real) : owner_(owner), real_(std::move(real)) {}
     bool read(char* b, size_t s, size_t* g, std::string* e) override { return owner_.tick(e) && real_->read(b, s, g, e); }
     bool write(const char* d, size_t s, std::string* e) override { return owner_.tick(e) && real_->write(d, s, e); }
+    bool setModified(int64_t m, std::string* e) override { return owner_.tick(e) && real_->setModified(m, e); }
     bool close(std::string* e) override {
       bool closed = real_->close(e);  // a refused close still releases the handle
       return owner_.tick(e) && closed;
@@ -90,6 +93,11 @@ class FaultOs : public Os {
     FaultOs& owner_;
     std::unique_ptr<OsFile> real_;
   };
+
+  std::unique_ptr<OsFile> wrap(std::unique_ptr<OsFile> real) {
+    if (!real) return nullptr;
+    return std::make_unique<FaultFile>(*this, std::move(real));
+  }
 
   bool tick(std::string* err) {
     if (++calls != failAt) return true;

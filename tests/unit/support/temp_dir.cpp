@@ -23,6 +23,15 @@ void removeTree(const std::string& path) {
   real.removeDirectory(path, nullptr);
 }
 
+void collectTemporaries(const std::string& path, std::string* found) {
+  std::vector<DirectoryEntry> entries;
+  platformOs().listDirectory(path, &entries, nullptr);
+  for (const DirectoryEntry& entry : entries) {
+    if (isTemporaryName(entry.name)) *found += (found->empty() ? "" : " ") + joinPath(path, entry.name);
+    if (isWalkableDirectory(entry)) collectTemporaries(joinPath(path, entry.name), found);
+  }
+}
+
 std::string temporaryRoot() {
   for (const char* name : {"TMPDIR", "TEMP", "TMP"})
     if (const char* value = std::getenv(name); value && *value) return value;
@@ -54,4 +63,10 @@ std::string TempDir::read(const std::string& relative) const {
   std::string data;
   platformOs().readFile(file(relative), &data, nullptr);
   return data;
+}
+
+std::string TempDir::temporariesLeft() const {
+  std::string found;
+  collectTemporaries(path_, &found);
+  return found;
 }

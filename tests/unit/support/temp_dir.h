@@ -17,6 +17,8 @@ class TempDir {
   // Writes a file (binary) below the directory, creating folders on the way.
   void write(const std::string& relative, const std::string& data) const;
   std::string read(const std::string& relative) const;
+  // The temporaries that replacements left anywhere below, joined by spaces: "" when none.
+  std::string temporariesLeft() const;
 
  private:
   std::string path_;

@@ -50,7 +50,7 @@ TEST_F(TaskFileTest, WritesTheCheckedInBytesWithThePublicFlagTwiceAndReadsThemBa
   std::string bytes = dir.read("my project.kpj.tsk");
   ASSERT_FALSE(golden.empty());
   EXPECT_EQ(bytes, golden) << goldenDifference("tasks", "two_tasks", "expected.tsk", golden, bytes);
-  EXPECT_FALSE(platformOs().exists(path + ".kesto-tmp"));
+  EXPECT_EQ("", dir.temporariesLeft());
   // state, public, public, priority of each record.
   EXPECT_NE(bytes.find(int32Bytes(1) + int32Bytes(1) + int32Bytes(1) + int32Bytes(7)), std::string::npos);
   EXPECT_NE(bytes.find(int32Bytes(3) + int32Bytes(0) + int32Bytes(0) + int32Bytes(-2)), std::string::npos);
@@ -109,7 +109,7 @@ TEST_F(TaskFileTest, FailedSaveLeavesTheOldFile) {
   EXPECT_FALSE(list.save(&err));
   EXPECT_EQ(err, "injected fault at call 1");
   EXPECT_EQ(dir.read("my project.kpj.tsk"), "old");
-  EXPECT_FALSE(platformOs().exists(path + ".kesto-tmp"));
+  EXPECT_EQ("", dir.temporariesLeft());
 }
 
 }  // namespace
