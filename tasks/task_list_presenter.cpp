@@ -178,6 +178,6 @@ bool TaskListPresenter::apply() {
   refresh(true);
   selectTaskOrFirstRow(task);
   if (previous != kEnded && task->state == kEnded && tasks_.mainOn && task->isPublic)
-    notifyTaskEnd(*task, tasks_, mail_, host_);
+    return notifyTaskEnd(*task, tasks_, mail_, host_);
   return true;
 }

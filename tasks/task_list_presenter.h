@@ -57,7 +57,8 @@ class TaskListPresenter {
   // Asks "Remove NAME ?"; false when nothing is selected, editing is refused or the answer is No.
   bool remove();                           // 110
   // Applies the edit area to the selected task; false when nothing is
-  // selected or the task is ended and read-only (the edits are then discarded).
+  // selected or the task is ended and read-only (the edits are then discarded),
+  // and when the end of the task could not be notified (the edits are kept).
   bool apply();                            // 121
 
  private:

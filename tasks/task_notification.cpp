@@ -36,17 +36,19 @@ bool appendTaskNotification(const std::string& path, const Task& task, std::stri
   return os().writeFileAtomic(path, text + platformText(added), err);
 }
 
-void notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host) {
+bool notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host) {
   std::string projectFile = host.projectFile();
   if (tasks.keyIsDelivery == 0) {
     std::string subject = taskEndSubject(task.name.str(), projectNameOf(projectFile));
-    if (!mail.send(host, subject, task.text.str(), ""))
-      alert("MAPI SendMail missed !", "Kesto AddOn error", kAlertIconHand);
-    return;
+    if (mail.send(host, subject, task.text.str(), "")) return true;
+    alert("MAPI SendMail missed !", "Kesto AddOn error", kAlertIconHand);
+    return false;
   }
   std::string err;
   if (!appendTaskNotification(notificationFilePath(projectFile), task, &err)) {
     if (!err.empty()) host.showStatus(err);
     alert("Impossible to store informations for future mail", "Kesto AddOn error", kAlertIconExclamation);
+    return false;
   }
+  return true;
 }

@@ -19,5 +19,5 @@ std::string projectNameOf(const std::string& projectFile);
 bool appendTaskNotification(const std::string& path, const Task& task, std::string* err);
 
 // Mails the end of the task (KeyIsDelivery 0) or appends it to the project's
-// notification file (KeyIsDelivery 1), and shows the failure boxes.
-void notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host);
+// notification file (KeyIsDelivery 1), and shows the failure boxes; false after one.
+bool notifyTaskEnd(const Task& task, const TaskList& tasks, Mail& mail, Host& host);

@@ -1,6 +1,7 @@
 // The once-a-day marker of the flash and the ended-task notification file.
 #include <gtest/gtest.h>
 
+#include "support/fault_os.h"
 #include "support/temp_dir.h"
 #include "tasks/flash.h"
 #include "tasks/project_files.h"
@@ -76,6 +77,31 @@ TEST_F(FlashTest, NotificationFileGetsItsHeaderOnce) {
   EXPECT_EQ(dir.read("my app.kpj.tsk.txt"), rule + eol + "  NOTIFICATIONS FOR ENDED TASKS" + eol + rule + eol +
                                                 "*** Task : Fix \xe9t\xe9 ***" + eol + "line 1" + inner + "line 2" +
                                                 eol + rule + eol + "*** Task : Second ***" + eol + eol);
+}
+
+TEST_F(FlashTest, EveryFailingCallKeepsTheNotificationsWholeAndLeavesNoTemporary) {
+  std::string path = notificationFilePath(dir.file("my app.kpj"));
+  Task task;
+  task.name = "First";
+  ASSERT_TRUE(appendTaskNotification(path, task, nullptr));
+  const std::string before = dir.read("my app.kpj.tsk.txt");
+  task.name = "Second";
+  for (int failAt = 1;; ++failAt) {
+    FaultOs faults;
+    faults.failAt = failAt;
+    ScopedOs scoped(faults);
+    std::string err;
+    bool appended = appendTaskNotification(path, task, &err);
+    std::string after = dir.read("my app.kpj.tsk.txt");
+    EXPECT_EQ("", dir.temporariesLeft()) << "failing call " << failAt;
+    if (appended) {
+      EXPECT_EQ(0u, after.find(before)) << "the earlier notes are kept in front";
+      EXPECT_NE(std::string::npos, after.find("*** Task : Second ***"));
+      break;
+    }
+    EXPECT_EQ(before, after) << "failing call " << failAt;
+    EXPECT_EQ("injected fault at call " + std::to_string(failAt), err);
+  }
 }
 
 TEST(ProjectNameTest, DropsDirectoryAndExtension) {
