@@ -84,7 +84,9 @@ ScopedOs::~ScopedOs() { installed = previous_; }
 
 Replacement::~Replacement() {
   if (temporary_.empty()) return;
-  file_.reset();  // Windows deletes no open file
+  // Windows deletes no open file, nor a read-only one.
+  file_.reset();
+  os().setReadOnly(temporary_, false, nullptr);
   os().removeFile(temporary_, nullptr);
 }
 
