@@ -81,6 +81,22 @@ TEST_F(GroupwareDialogsTest, SendUnlocksAndMailsThenGetTakesTheAdvisedFiles) {
   EXPECT_TRUE(watchdog.boxes().empty());
 }
 
+TEST_F(GroupwareDialogsTest, AMistypedServerDirectoryIsRefusedInItsBoxAndNeverCreated) {
+  MessageBoxWatchdog watchdog([](const std::string&) { saveScreenshot("groupware-missing-server"); });
+  const std::string mistyped = server_ + "\\mistyped";
+  ide_.nodeOptions.projectOptions["KestoGroupwareServer"] = "~" + mistyped + std::string(1, '\0');
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  sendBarCommand(176);
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  ASSERT_EQ(watchdog.boxes().size(), 1u);
+  EXPECT_EQ(watchdog.boxes()[0], "Kesto AddOn error: Server directory " + mistyped + " does not exist");
+  EXPECT_EQ(GetFileAttributesA(mistyped.c_str()), INVALID_FILE_ATTRIBUTES) << "a mistyped server is never made";
+  EXPECT_FALSE(readOnly(project_ + "\\a.cpp")) << "nothing was shared, so nothing was given away";
+}
+
 TEST_F(GroupwareDialogsTest, AltOnAProjectFileAddsANodeBesideIt) {
   MessageBoxWatchdog watchdog;
   LoadedAddon addon(kAddon);
