@@ -3,13 +3,16 @@
 
 #include <cstring>
 #include <memory>
+#include <vector>
 
 #include "foundation/alert.h"
 #include "foundation/os.h"
 
 namespace {
 
-constexpr size_t kComparedBlock = 256;
+// Large blocks: a no-change check reads whole targets, and system calls, not
+// bytes, were its cost. Any block size gives the same answer.
+constexpr size_t kComparedBlock = 1 << 18;
 
 // Reads up to size bytes, fewer only at the end of the file.
 bool readBlock(OsFile& file, char* buffer, size_t size, size_t* got) {
@@ -24,14 +27,15 @@ bool readBlock(OsFile& file, char* buffer, size_t size, size_t* got) {
 }
 
 bool sameContents(OsFile& a, OsFile& b) {
-  char left[kComparedBlock];
-  char right[kComparedBlock];
+  static thread_local std::vector<char> left(kComparedBlock);
+  static thread_local std::vector<char> right(kComparedBlock);
   for (;;) {
     size_t gotLeft = 0;
     size_t gotRight = 0;
-    if (!readBlock(a, left, sizeof left, &gotLeft) || !readBlock(b, right, sizeof right, &gotRight)) return false;
-    if (gotLeft != gotRight || std::memcmp(left, right, gotLeft) != 0) return false;
-    if (gotLeft < sizeof left) return true;
+    if (!readBlock(a, left.data(), kComparedBlock, &gotLeft) || !readBlock(b, right.data(), kComparedBlock, &gotRight))
+      return false;
+    if (gotLeft != gotRight || std::memcmp(left.data(), right.data(), gotLeft) != 0) return false;
+    if (gotLeft < kComparedBlock) return true;
   }
 }
 

@@ -47,12 +47,12 @@ TEST(DeliveryGroupsTest, RebuildKeepsKnownTypesDropsOthersAndSorts) {
 
 TEST(NeedsDeliveryTest, ComparesSizeThenEveryByteButNeverDates) {
   TempDir dir;
-  std::string data(700, 'x');
+  std::string data(700000, 'x');
   dir.write("app.exe", data);
   dir.write("out/app.exe", data);
   platformOs().setModified(dir.file("out/app.exe"), 1, nullptr);
   EXPECT_FALSE(needsDelivery(dir.file("app.exe"), dir.file("out")));
-  data[699] = 'y';  // in the tail after two full blocks
+  data[699999] = 'y';  // in the tail after two full blocks
   dir.write("out/app.exe", data);
   EXPECT_TRUE(needsDelivery(dir.file("app.exe"), dir.file("out")));
   dir.write("out/app.exe", data + "z");
