@@ -9,30 +9,36 @@
 
 namespace {
 
-// The first word that is not a global option must name a command; otherwise the
-// user is told the valid ones rather than only that one is missing.
-bool commandIsKnown(int argc, char** argv) {
+// The first word that is not a global option: the command; "" when there is none.
+std::string commandWord(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     std::string word = argv[i];
     if (word == "--project") {
       ++i;
       continue;
     }
-    if (word.empty() || word[0] == '-') continue;
-    for (const CommandGroup& group : commandGroups())
-      if (word == group.name) return true;
-    std::string names;
-    for (const CommandGroup& group : commandGroups()) names += std::string(names.empty() ? "" : ", ") + group.name;
-    std::cerr << "kesto: unknown command '" << word << "'; the commands are: " << names << '\n';
-    return false;
+    if (!word.empty() && word[0] != '-') return word;
   }
-  return true;
+  return "";
+}
+
+// The command must be known; otherwise the user is told the valid ones rather
+// than only that one is missing.
+bool commandIsKnown(const std::string& word) {
+  if (word.empty()) return true;
+  for (const CommandGroup& group : commandGroups())
+    if (word == group.name) return true;
+  std::string names;
+  for (const CommandGroup& group : commandGroups()) names += std::string(names.empty() ? "" : ", ") + group.name;
+  std::cerr << "kesto: unknown command '" << word << "'; the commands are: " << names << '\n';
+  return false;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (!commandIsKnown(argc, argv)) return kExitUsage;
+  const std::string command = commandWord(argc, argv);
+  if (!commandIsKnown(command)) return kExitUsage;
   CliSession session;
   CLI::App app{"Kesto AddOn on the command line: navigation, completion, tasks, documentation and generators."};
   app.name("kesto");
@@ -42,7 +48,11 @@ int main(int argc, char** argv) {
   app.add_option("--project", session.projectOption, "Project file (default: the one *.kpj here)");
   auto* yes = app.add_flag("--yes", session.host().answerYes, "Answer Yes to every question");
   app.add_flag("--no", session.host().answerNo, "Answer No to every question")->excludes(yes);
-  for (const CommandGroup& group : commandGroups()) group.install(*app.add_subcommand(group.name, group.summary), session);
+  // Only the command given gets its options: a run pays for its own command alone.
+  for (const CommandGroup& group : commandGroups()) {
+    CLI::App* subcommand = app.add_subcommand(group.name, group.summary);
+    if (command == group.name) group.install(*subcommand, session);
+  }
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
