@@ -12,6 +12,8 @@ const std::vector<CommandGroup>& commandGroups() {
       {"include", "Find an include on the project's search path", installIncludeCommand},
       {"find", "Find where a name is defined as a function, a method or a class", installFindCommands},
       {"xref", "List every use of a name inside a body in the project's sources", installXrefCommand},
+      {"tags", "Write the tags file of every function, method and class of a tree, for an editor's jumps",
+       installTagsCommand},
       {"keywords", "List the keyword files, or add, remove or extract one", installKeywordsCommands},
       {"complete", "Complete a word, or the word before the caret of a line, from the keywords", installCompleteCommands},
       {"html", "Write the HTML documentation site of the project or of a directory", installHtmlCommands},

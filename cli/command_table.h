@@ -26,6 +26,7 @@ void installIncludesCommand(CLI::App& command, CliSession& session);
 void installIncludeCommand(CLI::App& command, CliSession& session);
 void installFindCommands(CLI::App& command, CliSession& session);
 void installXrefCommand(CLI::App& command, CliSession& session);
+void installTagsCommand(CLI::App& command, CliSession& session);
 void installKeywordsCommands(CLI::App& command, CliSession& session);
 void installCompleteCommands(CLI::App& command, CliSession& session);
 void installHtmlCommands(CLI::App& command, CliSession& session);
