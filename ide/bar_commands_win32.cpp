@@ -5,6 +5,7 @@
 #include "ide/feature_commands_win32.h"
 #include "ide/general_behaviours_win32.h"
 #include "ide/project_client_win32.h"
+#include "ide/help_file_win32.h"
 #include "ide/hook_set_win32.h"
 #include "ide/open_file_win32.h"
 #include "topbar/top_bar_win32.h"
@@ -48,6 +49,9 @@ bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
       return true;
     case BarCommand::OpenHtml:
       openHtmlCommand();
+      return true;
+    case BarCommand::Help:
+      if (addon().helpFile) addon().helpFile->showContents();
       return true;
     case BarCommand::TitleBarPopup:
       return id == kEditDocumentationId ? editDocumentationCommand(bar, id, lParam)

@@ -26,3 +26,9 @@ void HelpFile::showTopic(uint32_t contextId) {
   opened_ = 1;
   WinHelpA(owner_, path_, HELP_CONTEXT, contextId);
 }
+
+void HelpFile::showContents() {
+  opened_ = 1;
+  // HELP_CONTENTS rather than the newer finder: every viewer of both looks has it.
+  WinHelpA(owner_, path_, HELP_CONTENTS, 0);
+}

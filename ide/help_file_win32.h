@@ -18,6 +18,8 @@ class HelpFile {
   HelpFile& operator=(const HelpFile&) = delete;
 
   void showTopic(uint32_t contextId);
+  // The file's contents page: the bar's "Help...".
+  void showContents();
   const char* path() const { return path_; }
 
  private:

@@ -1,11 +1,12 @@
 // The top bar in the IDE: its menus in both constructions, expansion while a
 // menu is open, the status texts, the recent projects across two loads, the
-// recent headers and the project-file commands.
+// recent headers, the project-file commands and the help command.
 #include <gtest/gtest.h>
 
 #include <string>
 
 #include "addon_loader.h"
+#include "fake_help_viewer.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "topbar/bar_commands.h"
@@ -126,6 +127,19 @@ TEST_F(TopBarTest, EditorsOfHeadersEnterTheHeaderMenuAndASecondViewOfAFileCloses
       << "a rebuild shows file names: " << barMenu();
   addon.stop();
   EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(TopBarTest, HelpOpensTheContentsOfTheAddOnsHelpFile) {
+  FakeHelpViewer viewer;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, 196, 0);
+  addon.stop();
+  std::string helpFile = kAddon.substr(0, kAddon.size() - 3) + "hlp";
+  ASSERT_EQ(viewer.heard().size(), 2u) << "the contents, then the viewer closed with the add-on";
+  EXPECT_EQ(viewer.heard()[0].command, static_cast<unsigned>(HELP_CONTENTS));
+  EXPECT_EQ(_stricmp(viewer.heard()[0].file.c_str(), helpFile.c_str()), 0) << viewer.heard()[0].file;
+  EXPECT_EQ(viewer.heard()[1].command, static_cast<unsigned>(HELP_QUIT));
 }
 
 TEST_F(TopBarTest, ControlOnAProjectFileAsksAndRemovesItFromTheProject) {
