@@ -19,7 +19,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::string written = encodeText(stamped, encoding);
   std::string reread;
   std::string expected;
-  for (char c : stamped) expected += c == '\n' ? std::string("\r\n") : std::string(1, c);
+  expected.reserve(stamped.size() * 2);
+  for (char c : stamped) {
+    if (c == '\n') expected.push_back('\r');
+    expected.push_back(c);
+  }
   if (textOf(written, &reread) != expected) __builtin_trap();
   return 0;
 }
