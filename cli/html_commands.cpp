@@ -67,6 +67,7 @@ bool writeHtmlSite(CliSession& session, const std::string& directory, const std:
     session.exitStatus = kExitNothing;
     return false;
   }
+  if (!result.sourcesSkipped.empty()) host.showStatus(skippedPathsText(result.sourcesSkipped));
   if (result.pagesSkipped > 0) {
     reportError(std::to_string(result.pagesSkipped) + " page(s) could not be written, the first: " +
                 result.firstSkipped);

@@ -52,7 +52,37 @@ class ErrorCatcher : public nlohmann::json_sax<Json> {
   std::string message;
 };
 
-bool readNode(const Json& value, ProjectNode* node, std::string* why) {
+// Arrays and objects nested deeper than this are refused before parsing: the
+// node reader and the JSON library's copies and dumps recurse once per level.
+constexpr int kMaxNesting = 256;
+
+// The offset of the first bracket that opens level kMaxNesting + 1, or npos.
+// Strings and comments are skipped as the parser skips them.
+size_t tooDeepAt(const std::string& text) {
+  int depth = 0;
+  for (size_t i = 0; i < text.size(); ++i) {
+    char c = text[i];
+    if (c == '"') {
+      for (++i; i < text.size() && text[i] != '"'; ++i)
+        if (text[i] == '\\') ++i;
+    } else if (c == '/' && i + 1 < text.size() && text[i + 1] == '/') {
+      i = text.find('\n', i);
+      if (i == std::string::npos) break;
+    } else if (c == '/' && i + 1 < text.size() && text[i + 1] == '*') {
+      i = text.find("*/", i + 2);
+      if (i == std::string::npos) break;
+      ++i;
+    } else if (c == '[' || c == '{') {
+      if (++depth > kMaxNesting) return i;
+    } else if (c == ']' || c == '}') {
+      --depth;
+    }
+  }
+  return std::string::npos;
+}
+
+// The document's own name and type are not read: the top node's are the project file's.
+bool readNode(const Json& value, bool isTop, ProjectNode* node, std::string* why) {
   if (!value.is_object()) {
     *why = "a node must be an object";
     return false;
@@ -66,6 +96,7 @@ bool readNode(const Json& value, ProjectNode* node, std::string* why) {
                 {"include_path", &node->includePath},
                 {"source_path", &node->sourcePath}};
   for (const Field& field : fields) {
+    if (isTop && (field.target == &node->name || field.target == &node->type)) continue;
     auto found = value.find(field.key);
     if (found == value.end()) continue;
     if (!found->is_string()) {
@@ -80,10 +111,10 @@ bool readNode(const Json& value, ProjectNode* node, std::string* why) {
     *why = "\"nodes\" must be an array";
     return false;
   }
+  node->nodes.reserve(children->size());
   for (const Json& child : *children) {
-    ProjectNode childNode;
-    if (!readNode(child, &childNode, why)) return false;
-    node->nodes.push_back(childNode);
+    node->nodes.emplace_back();
+    if (!readNode(child, false, &node->nodes.back(), why)) return false;
   }
   return true;
 }
@@ -100,6 +131,11 @@ bool KpjProject::load(const std::string& path, std::string* err) {
 
 bool KpjProject::parse(const std::string& path, const std::string& text, std::string* err) {
   path_ = path;
+  size_t deep = tooDeepAt(text);
+  if (deep != std::string::npos) {
+    if (err) *err = path + ":" + position(text, deep) + ": nested deeper than " + std::to_string(kMaxNesting) + " levels";
+    return false;
+  }
   document_ = Json::parse(text, nullptr, false, true);
   if (document_.is_discarded()) {
     // Parse again with a handler that keeps the error's offset.
@@ -124,12 +160,8 @@ bool KpjProject::readRoot(std::string* err) {
   // The document itself is the project's top node: its directory options are
   // what every node inherits; its name is always the project file's.
   root_ = ProjectNode();
-  Json asNode = document_;
-  asNode.erase("name");
-  asNode.erase("type");
-  asNode.erase("options");
   std::string why;
-  if (!readNode(asNode, &root_, &why)) {
+  if (!readNode(document_, true, &root_, &why)) {
     if (err) *err = path_ + ": " + why;
     return false;
   }

@@ -4,15 +4,18 @@
 
 #include <cstdio>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "foundation/menu_model.h"
+#include "foundation/os.h"
 #include "navigation/include_search.h"
 #include "navigation/navigation_menus.h"
 #include "navigation/quickfind.h"
+#include "navigation/search_history.h"
 #include "navigation/source_scanner.h"
 
 namespace {
@@ -27,7 +30,18 @@ struct NavigationArguments {
   bool menu = false;
 };
 
+// A FIFO, device or socket named as the file to scan is refused by name: the
+// scan would read it as an empty file.
+bool scannable(CliSession& session, const std::string& file) {
+  FileAttributes attributes;
+  if (!os().attributes(file, &attributes, nullptr) || !attributes.isSpecial) return true;
+  reportError(file + ": not a regular file");
+  session.exitStatus = kExitNothing;
+  return false;
+}
+
 void listFunctions(CliSession& session, const NavigationArguments& args) {
+  if (!scannable(session, args.file)) return;
   SourceScanner scanner;
   if (args.unsorted) scanner.settings().sorted = false;
   if (args.size > 0) scanner.settings().size = args.size;
@@ -49,6 +63,7 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
 }
 
 void listIncludes(CliSession& session, const NavigationArguments& args) {
+  if (!scannable(session, args.file)) return;
   SourceScanner scanner;
   MenuModel menu;
   if (!scanner.includesMenu(session.host(), args.file, &menu)) {
@@ -72,14 +87,22 @@ void printHit(const std::string& file, int32_t line, const std::string& text) {
   std::cout << file << ':' << line << ": " << text << '\n';
 }
 
-// An empty text ends a QuickFind command silently, as an empty prompt does.
+// An empty text ends a QuickFind command silently, as an empty prompt does. A
+// name longer than the prompt's slot is refused: cut, it would find the hits
+// of another name.
 bool searchable(CliSession& session, const std::string& name) {
+  if (name.size() > kSearchTextLimit) {
+    reportError("a search name holds at most " + std::to_string(kSearchTextLimit) + " bytes; this one has " +
+                std::to_string(name.size()));
+    session.exitStatus = kExitUsage;
+    return false;
+  }
   if (name.empty()) session.exitStatus = kExitNothing;
   return !name.empty() && session.openProject();
 }
 
 void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
-  std::string name = boundedSearchText(args.name);
+  const std::string& name = args.name;
   if (!searchable(session, name)) return;
   QuickFind quickFind;
   QuickHit hit;
@@ -97,7 +120,7 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
 }
 
 void crossReference(CliSession& session, const NavigationArguments& args) {
-  std::string name = boundedSearchText(args.name);
+  const std::string& name = args.name;
   if (!searchable(session, name)) return;
   // Hundreds of thousands of hits are written far faster through a large buffer
   // than through the default one of 4 kB; a terminal keeps its line buffering.
@@ -112,8 +135,9 @@ void installFunctionsCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<NavigationArguments>();
   command.add_option("file", args->file, "Source file to scan")->required();
   command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
+  // The bounds are given as integers so that the range error names them in plain numbers.
   command.add_option("--size", args->size, "Items per menu column (default: the Menus setting Size)")
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Range(int32_t{1}, std::numeric_limits<int32_t>::max()));
   command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
   command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
   command.callback([&session, args] { listFunctions(session, *args); });

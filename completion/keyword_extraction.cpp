@@ -5,6 +5,7 @@
 
 #include "completion/read_lines.h"
 #include "foundation/os.h"
+#include "foundation/text_encoding.h"
 
 namespace {
 
@@ -64,7 +65,7 @@ bool keywordFilePathFor(const std::string& sourcePath, std::string* keywordPath)
   return true;
 }
 
-std::string extractKeywords(const std::string& sourceText) {
+std::string extractKeywords(std::string_view sourceText) {
   std::string keywords;
   std::string lastClass;
   forEachReadLine(sourceText, kSourceLineText, [&](std::string_view line) {
@@ -87,9 +88,10 @@ bool extractKeywordFile(const std::string& sourcePath, std::string* keywordPath,
     if (err) *err = sourcePath + ": the file name has no extension to replace by .kwd";
     return false;
   }
-  std::string source;
-  if (!os().readTextFile(sourcePath, &source, err)) return false;
-  if (!os().writeTextFileAtomic(path, extractKeywords(source), err)) return false;
+  std::string bytes;
+  std::string decoded;
+  if (!os().readFile(sourcePath, &bytes, err)) return false;
+  if (!os().writeTextFileAtomic(path, extractKeywords(textOf(bytes, &decoded)), err)) return false;
   *keywordPath = path;
   return true;
 }

@@ -33,6 +33,9 @@ struct FileAttributes {
   // A symbolic link or junction: walks do not descend into linked directories,
   // which could lead back up the tree.
   bool isLink = false;
+  // A FIFO, device or socket: reading one could block or never end, so walks
+  // skip it and readFile and openFile refuse it.
+  bool isSpecial = false;
   int64_t modified = 0;  // seconds since 1970-01-01 UTC
   uint64_t size = 0;
 };
@@ -83,12 +86,15 @@ class Os {
  public:
   virtual ~Os() = default;
 
-  // Whole files, binary.
+  // Whole files, binary. Only a regular file is read (checked on the open file,
+  // so a swap after a check cannot fool it), and no further than the size it
+  // had when opened.
   virtual bool readFile(const std::string& path, std::string* data, std::string* err) = 0;
   // Creates or truncates in place: for test fixtures and benchmarks only. A file
   // that someone else may read or write goes through writeFileAtomic.
   virtual bool writeFile(const std::string& path, const std::string& data, std::string* err) = 0;
-  // A file read piece by piece, for work that shows its progress; null on failure.
+  // A file read piece by piece, for work that shows its progress; null on
+  // failure. Only a regular file is opened, as readFile reads.
   virtual std::unique_ptr<OsFile> openFile(const std::string& path, std::string* err) = 0;
   // Creates path for writing, exclusively: null, with *existed set, when anything
   // is there already, a link included, so that nothing is ever written through a

@@ -141,6 +141,7 @@ int openLockFile(const std::string& sidecar) {
 FileAttributes fromStat(const struct stat& info) {
   FileAttributes attributes;
   attributes.isDirectory = S_ISDIR(info.st_mode);
+  attributes.isSpecial = !S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode);
   attributes.readOnly = (info.st_mode & S_IWUSR) == 0;
   attributes.modified = static_cast<int64_t>(info.st_mtime);
   attributes.size = static_cast<uint64_t>(info.st_size);
@@ -244,12 +245,29 @@ struct timeval currentTimeOfDay() {
 class PosixOs : public Os {
  public:
   bool readFile(const std::string& path, std::string* data, std::string* err) override {
-    int fd = ::open(path.c_str(), O_RDONLY);
+    // Non-blocking, so that opening a FIFO cannot wait for a writer.
+    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY);
     if (fd < 0) return fail(err, "open", path);
+    struct stat info;
+    if (::fstat(fd, &info) != 0) {
+      int savedErrno = errno;
+      ::close(fd);
+      errno = savedErrno;
+      return fail(err, "fstat", path);
+    }
+    if (!S_ISREG(info.st_mode)) {
+      ::close(fd);
+      if (err) *err = "read " + path + ": not a regular file";
+      return false;
+    }
+    // A file that grows while it is read is read as it was when opened.
+    size_t size = static_cast<size_t>(info.st_size);
     data->clear();
+    data->reserve(size);
     char buffer[65536];
-    for (;;) {
-      ssize_t n = ::read(fd, buffer, sizeof buffer);
+    while (data->size() < size) {
+      size_t wanted = std::min(sizeof buffer, size - data->size());
+      ssize_t n = ::read(fd, buffer, wanted);
       if (n < 0) {
         if (errno == EINTR) continue;
         int savedErrno = errno;
@@ -269,9 +287,16 @@ class PosixOs : public Os {
   }
 
   std::unique_ptr<OsFile> openFile(const std::string& path, std::string* err) override {
-    int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Non-blocking, so that opening a FIFO to read cannot wait for a writer.
+    int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) {
       fail(err, "open", path);
+      return nullptr;
+    }
+    struct stat info;
+    if (::fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+      ::close(fd);
+      if (err) *err = "read " + path + ": not a regular file";
       return nullptr;
     }
     return std::make_unique<PosixFile>(fd, path);
@@ -375,11 +400,12 @@ class PosixOs : public Os {
     entries->clear();
     while (struct dirent* entry = ::readdir(handle)) {
       if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0) continue;
+      // Relative to the open directory, so that an entry whose full path is
+      // longer than the system takes is still listed, and the walk can say so.
       struct stat info;
-      std::string full = joinPath(dir, entry->d_name);
-      if (::lstat(full.c_str(), &info) != 0) continue;
+      if (::fstatat(::dirfd(handle), entry->d_name, &info, AT_SYMLINK_NOFOLLOW) != 0) continue;
       bool isLink = S_ISLNK(info.st_mode);
-      if (isLink && ::stat(full.c_str(), &info) != 0) continue;  // a dangling link is not an entry
+      if (isLink && ::fstatat(::dirfd(handle), entry->d_name, &info, 0) != 0) continue;  // a dangling link is not an entry
       DirectoryEntry listed{entry->d_name, fromStat(info)};
       listed.attributes.isLink = isLink;
       entries->push_back(listed);

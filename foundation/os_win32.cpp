@@ -173,11 +173,22 @@ class WindowsOs : public Os {
     FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file.valid()) return fail(err, "CreateFileA", path);
+    // A device or pipe named like a file (CON, a named pipe) could block or never end.
+    if (GetFileType(file.get()) != FILE_TYPE_DISK) {
+      if (err) *err = "ReadFile " + path + ": not a regular file";
+      return false;
+    }
+    LARGE_INTEGER size;
+    if (!GetFileSizeEx(file.get(), &size)) return fail(err, "GetFileSizeEx", path);
+    // A file that grows while it is read is read as it was when opened.
+    size_t total = static_cast<size_t>(size.QuadPart);
     data->clear();
+    data->reserve(total);
     char buffer[65536];
     DWORD got = 0;
-    for (;;) {
-      if (!ReadFile(file.get(), buffer, sizeof buffer, &got, nullptr)) return fail(err, "ReadFile", path);
+    while (data->size() < total) {
+      DWORD wanted = static_cast<DWORD>(std::min<size_t>(sizeof buffer, total - data->size()));
+      if (!ReadFile(file.get(), buffer, wanted, &got, nullptr)) return fail(err, "ReadFile", path);
       if (got == 0) break;
       data->append(buffer, got);
     }
@@ -198,6 +209,11 @@ class WindowsOs : public Os {
     });
     if (handle == INVALID_HANDLE_VALUE) {
       fail(err, "CreateFileA", path);
+      return nullptr;
+    }
+    if (GetFileType(handle) != FILE_TYPE_DISK) {
+      CloseHandle(handle);
+      if (err) *err = "ReadFile " + path + ": not a regular file";
       return nullptr;
     }
     return std::make_unique<WindowsFile>(handle, path);

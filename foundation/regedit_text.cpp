@@ -3,6 +3,7 @@
 
 #include <cctype>
 #include <cstdlib>
+#include <unordered_map>
 
 namespace {
 
@@ -66,7 +67,42 @@ bool parseData(const std::string& data, std::string* text) {
   return false;
 }
 
+// Where the parser finds the keys and values it has read: a file with
+// thousands of keys or values must not be searched once per line.
+class RegeditIndex {
+ public:
+  explicit RegeditIndex(RegeditDocument* document) : document_(document) {}
+
+  size_t keyNamed(const std::string& path) {
+    auto found = keys_.emplace(foldedCase(path), document_->keys.size());
+    if (found.second) {
+      document_->keys.push_back(RegeditKey{path, {}});
+      values_.emplace_back();
+    }
+    return found.first->second;
+  }
+
+  void setValue(size_t key, const std::string& name, const std::string& text) {
+    std::vector<RegeditValue>& values = document_->keys[key].values;
+    auto found = values_[key].emplace(foldedCase(name), values.size());
+    if (found.second)
+      values.push_back(RegeditValue{name, text});
+    else
+      values[found.first->second].text = text;
+  }
+
+ private:
+  RegeditDocument* document_;
+  std::unordered_map<std::string, size_t> keys_;
+  std::vector<std::unordered_map<std::string, size_t>> values_;  // by key
+};
+
 }  // namespace
+
+std::string foldedCase(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
 
 bool equalsIgnoringCase(const std::string& a, const std::string& b) {
   if (a.size() != b.size()) return false;
@@ -95,7 +131,9 @@ RegeditValue* findValue(RegeditKey& key, const std::string& name) {
 
 bool parseRegedit(const std::string& text, RegeditDocument* document, std::string* err) {
   document->keys.clear();
-  RegeditKey* current = nullptr;
+  RegeditIndex index(document);
+  constexpr size_t kNoKey = static_cast<size_t>(-1);
+  size_t current = kNoKey;
   bool sawHeader = false;
   size_t start = 0;
   int lineNumber = 0;
@@ -115,10 +153,10 @@ bool parseRegedit(const std::string& text, RegeditDocument* document, std::strin
     if (line[0] == '[') {
       if (line.back() != ']' || line.size() < 3) return lineError(lineNumber, "a key line must end with ']'", err);
       if (line[1] == '-') return lineError(lineNumber, "key deletions are not supported", err);
-      current = &document->findOrAddKey(line.substr(1, line.size() - 2));
+      current = index.keyNamed(line.substr(1, line.size() - 2));
       continue;
     }
-    if (!current) return lineError(lineNumber, "a value must follow a key line", err);
+    if (current == kNoKey) return lineError(lineNumber, "a value must follow a key line", err);
     std::string name;
     size_t pos = 0;
     if (line[0] == '@') {
@@ -130,10 +168,7 @@ bool parseRegedit(const std::string& text, RegeditDocument* document, std::strin
     std::string data;
     if (!parseData(line.substr(pos + 1), &data))
       return lineError(lineNumber, "only string and dword values are supported", err);
-    if (RegeditValue* existing = findValue(*current, name))
-      existing->text = data;
-    else
-      current->values.push_back(RegeditValue{name, data});
+    index.setValue(current, name, data);
   }
   return true;
 }

@@ -34,3 +34,5 @@ bool parseRegedit(const std::string& text, RegeditDocument* document, std::strin
 std::string formatRegedit(const RegeditDocument& document);
 
 bool equalsIgnoringCase(const std::string& a, const std::string& b);
+// The form in which equalsIgnoringCase compares: every byte lower-cased; a key for name indexes.
+std::string foldedCase(std::string text);

@@ -3,6 +3,9 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <unordered_map>
+
+#include "foundation/regedit_text.h"
 
 namespace {
 
@@ -54,11 +57,17 @@ int32_t SettingsStore::readInteger(const std::string& section, const std::string
 
 std::vector<std::string> SettingsStore::readList(const std::string& section, const std::string& list) {
   int32_t count = readInteger(section, "Nb" + list, 0);
+  // One listing of the entries' key, not one read each: a file backend parses
+  // the whole file on every read.
+  std::vector<SettingsValue> stored;
+  if (!backend_ || !backend_->list(keyPath(section + "\\" + list), &stored)) stored.clear();
+  std::unordered_map<std::string, const std::string*> byName;
+  for (const SettingsValue& value : stored)
+    if (value.text.size() + 1 <= kScratchBytes) byName.emplace(foldedCase(value.name), &value.text);
   std::vector<std::string> entries;
   for (int32_t i = 0; i < count && i < kMaxListEntries; ++i) {
-    std::string entry;
-    readString(section + "\\" + list, "Entry" + std::to_string(i), &entry, kMissingEntry);
-    entries.push_back(entry);
+    auto found = byName.find(foldedCase("Entry" + std::to_string(i)));
+    entries.push_back(found == byName.end() ? std::string(kMissingEntry) : *found->second);
   }
   return entries;
 }

@@ -32,16 +32,19 @@ BasicTableau::BasicTableau() : items_(nullptr), step_(10), capacity_(0), count_(
 
 BasicTableau::~BasicTableau() { removeRange(0, 0); }
 
+bool BasicTableau::reserve(int32_t n) {
+  if (capacity_ >= n) return true;
+  void* block = items_ ? std::realloc(items_, sizeof(Basic*) * static_cast<size_t>(n))
+                       : std::malloc(sizeof(Basic*) * static_cast<size_t>(n));
+  if (!block) return false;
+  items_ = static_cast<Basic**>(block);
+  capacity_ = n;
+  return true;
+}
+
 bool BasicTableau::insert(int32_t position, Basic* element) {
   if (position < 0 || position > count_) return false;
-  if (capacity_ < count_ + 1) {
-    int32_t grown = capacity_ + step_;
-    void* block = items_ ? std::realloc(items_, sizeof(Basic*) * static_cast<size_t>(grown))
-                         : std::malloc(sizeof(Basic*) * static_cast<size_t>(grown));
-    if (!block) return false;
-    items_ = static_cast<Basic**>(block);
-    capacity_ = grown;
-  }
+  if (capacity_ < count_ + 1 && !reserve(capacity_ + step_)) return false;
   std::memmove(items_ + position + 1, items_ + position, sizeof(Basic*) * static_cast<size_t>(count_ - position));
   items_[position] = element;
   ++count_;
@@ -109,14 +112,7 @@ void BasicTableau::removeRange(int32_t from, int32_t n) {
 bool BasicTableau::openGap(int32_t at, int32_t n) {
   if (n <= 0) return true;
   if (at < 0 || at > count_ || n > INT32_MAX - count_ - step_) return false;
-  if (capacity_ < count_ + n) {
-    int32_t wanted = ((count_ + n) / step_ + 1) * step_;
-    size_t bytes = sizeof(Basic*) * static_cast<size_t>(wanted);
-    void* block = items_ ? std::realloc(items_, bytes) : std::malloc(bytes);
-    if (!block) return false;
-    items_ = static_cast<Basic**>(block);
-    capacity_ = wanted;
-  }
+  if (capacity_ < count_ + n && !reserve(((count_ + n) / step_ + 1) * step_)) return false;
   std::memmove(items_ + at + n, items_ + at, sizeof(Basic*) * static_cast<size_t>(count_ - at));
   for (int32_t i = at; i < at + n; ++i) items_[i] = nullptr;
   count_ += n;

@@ -40,6 +40,10 @@ class BasicTableau : public Basic {
   // n = 0 means to the end. Deletes the range's elements when owns is set.
   void removeRange(int32_t from, int32_t n);
   void clear() { removeRange(0, 0); }
+  // Opens slots for n elements in one allocation when fewer are open, so that a
+  // caller that knows its count avoids regrowing by the step. False when memory
+  // runs out (table unchanged).
+  bool reserve(int32_t n);
   // Makes room for n null slots at `at`. False when memory runs out (table unchanged).
   bool openGap(int32_t at, int32_t n);
   // Stores without deleting the old pointer.

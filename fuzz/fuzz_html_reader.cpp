@@ -1,26 +1,9 @@
 // Any source text must read and document without tripping a consistency check.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
-#include "foundation/alert.h"
-#include "html/ht_pages.h"
 #include "html/ht_reader.h"
-
-namespace {
-
-// Real code must never reach a consistency check: any box is a finding.
-class AbortOnAlert : public AlertHandler {
- public:
-  int show(const std::string&, const std::string&, unsigned) override { std::abort(); }
-};
-
-class DiscardPages : public htPageSink {
- public:
-  void onPage(const std::string&, const std::string&) override {}
-};
-
-}  // namespace
+#include "html_fuzz_support.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   static AbortOnAlert abortOnAlert;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "foundation/directory_walk.h"
 #include "html/ht_model.h"
 
 // Told how far a long generation has gone: a phase name, the count done and the total.
@@ -14,10 +15,14 @@ using htProgress = std::function<void(const char* phase, size_t done, size_t tot
 // The files a generation reads, in reading order: for each pattern of the ";"
 // list, the matching plain files of the directory, then those of each
 // subdirectory, recursively. Names beginning with "." are skipped; a file matched
-// by two patterns comes twice. Unlistable directories count as empty.
-std::vector<std::string> findHtSourceFiles(const std::string& directory, const std::string& filters);
+// by two patterns comes twice. Unlistable directories count as empty and, with
+// FIFOs, devices and sockets matching a pattern, go to *skipped.
+std::vector<std::string> findHtSourceFiles(const std::string& directory, const std::string& filters,
+                                           std::vector<SkippedPath>* skipped);
 
-// Reads every found file (its companion "NAME.txt" first) into project, then
-// sorts the project's collections. Unreadable files are skipped silently. False
-// when a consistency check stopped the reading (the box has been shown).
-bool buildHtProject(htProjet& project, const htProgress& progress = nullptr);
+// Reads every found file (its companion "NAME.txt" first, UTF-16 decoded) into
+// project, then sorts the project's collections. What the walk left out and
+// the sources that could not be read go to *skipped (may be null). False when
+// a consistency check stopped the reading (the box has been shown).
+bool buildHtProject(htProjet& project, const htProgress& progress = nullptr,
+                    std::vector<SkippedPath>* skipped = nullptr);

@@ -71,7 +71,7 @@ bool runHtmlGeneration(const std::string& directory, const std::string& filters,
                        htGenerationResult* result, const htProgress& progress) {
   RunningGeneration running;
   htProjet project(projectName, directory, filters);
-  if (!buildHtProject(project, progress)) return false;
+  if (!buildHtProject(project, progress, &result->sourcesSkipped)) return false;
   std::string site = htSiteDirectory(directory);
   if (!os().exists(site)) os().makeDirectory(site, nullptr);
   DiskPages pages(site, result);

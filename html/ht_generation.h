@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "html/ht_build.h"
 
@@ -24,6 +25,7 @@ struct htGenerationResult {
   size_t pagesUnchanged = 0;  // already on disk with the same bytes, left alone
   size_t pagesSkipped = 0;  // pages that could not be created
   std::string firstSkipped;  // the first of them with the system's reason
+  std::vector<SkippedPath> sourcesSkipped;  // sources left out of the site, with why
 };
 
 // The work of one generation, counted as running from start to end: builds the

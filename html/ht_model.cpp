@@ -17,18 +17,25 @@ bool htSymbol::suits(htKind kind) const {
   return false;
 }
 
+htSymbol* htSameName::firstSuiting(htKind kind, bool anyMeansBlank) {
+  size_t& candidate = firstCandidate_[static_cast<size_t>(kind)];
+  auto fits = [&](const htSymbol* entry) {
+    if (kind == htKind::Any && anyMeansBlank) return !entry->hasDocumentation() && !entry->hasDeclaration();
+    return entry->suits(kind);
+  };
+  while (candidate < entries_.size() && !fits(entries_[candidate])) ++candidate;
+  return candidate < entries_.size() ? entries_[candidate] : nullptr;
+}
+
 htClass::htClass(const std::string& className) : htSymbol(className) {}
 
 htSymbol* htClass::findOrAddMethod(const std::string& methodName, htKind kind, uint32_t serialNumber) {
-  for (int32_t i = 0; i < methods.count(); ++i) {
-    htSymbol* method = methods[i];
-    if (method->name.str() != methodName) continue;
-    bool fits = kind == htKind::Any ? !method->hasDocumentation() && !method->hasDeclaration() : method->suits(kind);
-    if (fits) return method;
-  }
+  htSameName& sameName = methodsByName_[methodName];
+  if (htSymbol* existing = sameName.firstSuiting(kind, true)) return existing;
   auto* method = new htSymbol(methodName);
   method->serial = serialNumber;
   methods.append(method);
+  sameName.add(method);
   return method;
 }
 
@@ -52,28 +59,28 @@ htClass* htProjet::findOrAddClass(const std::string& className, htFile& file) {
   auto found = classByName_.find(className);
   if (found != classByName_.end()) {
     htClass* existing = found->second;
-    if (file.classes.indexOf(existing) == BasicTableau::kNotFound) file.classes.append(existing);
+    if (classInFile_.emplace(existing, &file).second) file.classes.append(existing);
     return existing;
   }
   auto* created = new htClass(className);
   created->serial = nextSerial();
   classes.append(created);
   file.classes.append(created);
+  classInFile_.emplace(created, &file);
   classByName_.emplace(className, created);
   return created;
 }
 
 htSymbol* htProjet::findOrAdd(Ensemble<htSymbol>& all, Tableau<htSymbol>& ofFile,
-                              std::unordered_map<std::string, std::vector<htSymbol*>>& byName,
+                              std::unordered_map<std::string, htSameName>& byName,
                               const std::string& symbolName, htKind kind) {
-  std::vector<htSymbol*>& sameName = byName[symbolName];
-  for (htSymbol* existing : sameName)
-    if (existing->suits(kind)) return existing;
+  htSameName& sameName = byName[symbolName];
+  if (htSymbol* existing = sameName.firstSuiting(kind, false)) return existing;
   auto* created = new htSymbol(symbolName);
   created->serial = nextSerial();
   all.append(created);
   ofFile.append(created);
-  sameName.push_back(created);
+  sameName.add(created);
   return created;
 }
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "foundation/kstring.h"
@@ -40,6 +42,22 @@ class htSymbol : public Basic {
   uint32_t serial = 0;
 };
 
+// The entries of one name in creation order. Entries only ever gain a
+// declaration or documentation, so an entry that no longer suits a kind never
+// will again: the search for each kind resumes where it stopped, and thousands
+// of entries of one name are paired in linear time.
+class htSameName {
+ public:
+  // The first entry that suits kind, or null. With anyMeansBlank, Any asks for
+  // an entry with neither documentation nor declaration.
+  htSymbol* firstSuiting(htKind kind, bool anyMeansBlank);
+  void add(htSymbol* entry) { entries_.push_back(entry); }
+
+ private:
+  std::vector<htSymbol*> entries_;
+  size_t firstCandidate_[3] = {0, 0, 0};  // by htKind
+};
+
 class htClass : public htSymbol {
  public:
   explicit htClass(const std::string& className = "");
@@ -48,6 +66,9 @@ class htClass : public htSymbol {
   // The rule of htKind on the methods of this class; Any means an entry with
   // neither documentation nor declaration.
   htSymbol* findOrAddMethod(const std::string& methodName, htKind kind, uint32_t serial);
+
+ private:
+  std::unordered_map<std::string, htSameName> methodsByName_;
 };
 
 class htFile : public htSymbol {
@@ -84,12 +105,13 @@ class htProjet : public htSymbol {
 
  private:
   htSymbol* findOrAdd(Ensemble<htSymbol>& all, Tableau<htSymbol>& ofFile,
-                      std::unordered_map<std::string, std::vector<htSymbol*>>& byName, const std::string& symbolName,
+                      std::unordered_map<std::string, htSameName>& byName, const std::string& symbolName,
                       htKind kind);
 
   // Name indexes, so that reading a large tree stays linear.
   std::unordered_map<std::string, htClass*> classByName_;
-  std::unordered_map<std::string, std::vector<htSymbol*>> functionsByName_;
-  std::unordered_map<std::string, std::vector<htSymbol*>> macrosByName_;
+  std::set<std::pair<const htClass*, const htFile*>> classInFile_;
+  std::unordered_map<std::string, htSameName> functionsByName_;
+  std::unordered_map<std::string, htSameName> macrosByName_;
   uint32_t serial_ = 0;
 };

@@ -52,11 +52,11 @@ bool forEachLine(std::string_view text, Visit visit) {
   constexpr size_t kPieceLimit = 4095;
   size_t start = 0;
   while (start < text.size()) {
-    size_t limit = text.size() - start < kPieceLimit ? text.size() - start : kPieceLimit;
-    size_t end = text.find('\n', start);
-    size_t pieceLength = end == npos || end - start >= limit ? limit : end - start + 1;
-    Line piece = text.substr(start, pieceLength);
-    start += pieceLength;
+    // The line end is looked for within the piece only, so that one huge line stays linear.
+    Line piece = text.substr(start, kPieceLimit);
+    size_t end = piece.find('\n');
+    if (end != npos) piece = piece.substr(0, end + 1);
+    start += piece.size();
     piece = piece.substr(0, piece.find('\0'));
     while (!piece.empty() && static_cast<unsigned char>(piece.back()) < 32) piece.remove_suffix(1);
     if (!visit(piece)) return false;

@@ -63,14 +63,16 @@ bool QuickFind::walk(Host& host, const std::string& name, const std::vector<std:
   DirectoryWalker walker(settings_.recurse);
   NameLines lines(name);
   std::string text;
+  std::string err;
   auto visitFile = [&](const std::string& path) {
-    readSourceText(host, path, &text);
+    if (!readSourceText(host, path, &text, &err)) walker.skip(path, err);
     return lines.visit(text, [&](std::string_view line, int32_t number) { return visit(path, line, number); });
   };
-  for (const std::string& dir : dirs)
-    for (const std::string& mask : masks)
-      if (!walker.walk(dir, mask, visitFile)) return false;
-  return true;
+  bool finished = true;
+  for (size_t d = 0; d < dirs.size() && finished; ++d)
+    for (size_t m = 0; m < masks.size() && finished; ++m) finished = walker.walk(dirs[d], masks[m], visitFile);
+  if (!walker.skipped().empty()) host.showStatus(skippedPathsText(walker.skipped()));
+  return finished;
 }
 
 bool QuickFind::firstHit(Host& host, const std::string& name, const std::vector<std::string>& dirs,

@@ -30,7 +30,7 @@ void MenuSettings::write() const {
 bool SourceScanner::functionsMenu(Host& host, const std::string& file, MenuModel* menu) {
   functions_.clear();
   std::string text;
-  readSourceText(host, file, &text);
+  readSourceText(host, file, &text, nullptr);  // an unreadable file reads as empty
   scanFunctions(text, &functions_);
   if (settings_.sorted) sortFunctions(&functions_);
   if (functions_.count() == 0) {
@@ -45,7 +45,7 @@ bool SourceScanner::functionsMenu(Host& host, const std::string& file, MenuModel
 bool SourceScanner::includesMenu(Host& host, const std::string& file, MenuModel* menu) {
   includes_.clear();
   std::string text;
-  readSourceText(host, file, &text);
+  readSourceText(host, file, &text, nullptr);  // an unreadable file reads as empty
   scanIncludes(text, &includes_);
   if (includes_.count() == 0) {
     host.showStatus("No include files detected !");

@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "foundation/directory_walk.h"
+#include "ide/host.h"
 #include "navigation/function_scan.h"
 #include "navigation/line_match.h"
 #include "navigation/quickfind_settings.h"
@@ -61,15 +62,19 @@ std::vector<TagEntry> treeTags(Host& host, const std::string& root, const QuickF
   DirectoryWalker walker(settings.recurse);
   std::set<std::string> seen;
   std::string text;
+  std::string err;
   std::vector<std::string> masks = splitSearchList(settings.includeMask + ";" + settings.functionMask);
   for (const std::string& mask : masks) {
     walker.walk(root, mask, [&](const std::string& path) {
       if (!seen.insert(path).second) return true;
-      readSourceText(host, path, &text);
-      collectTags(text, path, &tags);
+      if (readSourceText(host, path, &text, &err))
+        collectTags(text, path, &tags);
+      else
+        walker.skip(path, err);
       return true;
     });
   }
+  if (!walker.skipped().empty()) host.showStatus(skippedPathsText(walker.skipped()));
   return tags;
 }
 

@@ -28,7 +28,7 @@ void collectTags(std::string_view text, const std::string& file, std::vector<Tag
 
 // The tags of every file of root that QuickFind's header and source masks
 // match (each file once), descending as its "Recurse" setting says. Files are
-// named as the walk names them.
+// named as the walk names them; those it skips are named on the status line.
 std::vector<TagEntry> treeTags(Host& host, const std::string& root, const QuickFindSettings& settings);
 
 // The whole file: the header lines, then one line per tag sorted by name,

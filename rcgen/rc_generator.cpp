@@ -3,11 +3,19 @@
 
 #include <vector>
 
+#include "foundation/file_mask.h"
 #include "foundation/os.h"
+#include "html/ht_generation.h"
 #include "rcgen/rc_generation_unit.h"
 #include "rcgen/version_stamping.h"
 
 namespace {
+
+// A subdirectory that is a unit: not a link, which could lead out of the
+// project or back into it, and not the documentation site, which holds pages.
+bool isUnitDirectory(const std::string& projectDirectory, const DirectoryEntry& entry) {
+  return isWalkableDirectory(entry) && !matchesMask(entry.name, fileNameOf(htSiteDirectory(projectDirectory)));
+}
 
 void generateIfOutOfDate(const RcUnit& unit, RcRunReport* report) {
   if (rcUnitIsOutOfDate(unit)) regenerateRcUnit(unit, report);
@@ -21,7 +29,7 @@ void RcGenerator::run(const std::string& projectDirectory, RcRunReport* report) 
     std::string err;
     if (!os().listDirectory(projectDirectory, &entries, &err)) report->errors.push_back(err);
     for (const DirectoryEntry& entry : entries)
-      if (entry.attributes.isDirectory) generateIfOutOfDate({joinPath(projectDirectory, entry.name), entry.name}, report);
+      if (isUnitDirectory(projectDirectory, entry)) generateIfOutOfDate({joinPath(projectDirectory, entry.name), entry.name}, report);
     generateIfOutOfDate({projectDirectory, ""}, report);
   }
   if (versionGeneration) stampVersionTree(projectDirectory, &buildNumber, report);

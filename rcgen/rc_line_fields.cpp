@@ -1,43 +1,38 @@
 // Text-mode lines, tokens and comma fields of resource and version scripts.
 #include "rcgen/rc_line_fields.h"
 
-#include <cstring>
-
-std::vector<std::string> textModeLines(const std::string& text, size_t limit) {
-  std::vector<std::string> lines;
-  std::string line;
-  for (size_t i = 0; i < text.size(); ++i) {
-    char c = text[i];
+bool TextModeLines::next(std::string_view* line) {
+  if (at_ >= text_.size()) return false;
+  size_t begin = at_;
+  size_t characters = 0;
+  while (at_ < text_.size()) {
+    char c = text_[at_++];
+    ++characters;
     // CR LF is one line end, as text-mode reading gives it; a lone CR ends a
     // line too, so that scripts with old Mac line ends keep their lines apart.
-    if (c == '\r') {
-      if (i + 1 < text.size() && text[i + 1] == '\n') continue;
-      c = '\n';
-    }
-    line += c;
-    if (c == '\n' || (limit != kNoLineLimit && line.size() == limit)) {
-      lines.push_back(line);
-      line.clear();
-    }
+    if (c == '\r' && at_ < text_.size() && text_[at_] == '\n') ++at_;
+    if (c == '\r' || c == '\n' || (limit_ != kNoLineLimit && characters == limit_)) break;
   }
-  if (!line.empty()) lines.push_back(line);
-  return lines;
+  *line = text_.substr(begin, at_ - begin);
+  return true;
 }
 
-void dropLineEnd(std::string* line) {
-  if (!line->empty() && static_cast<unsigned char>(line->back()) < 32) line->pop_back();
+std::string_view withoutLineEnd(std::string_view line) {
+  if (line.size() >= 2 && line.substr(line.size() - 2) == "\r\n") return line.substr(0, line.size() - 2);
+  if (!line.empty() && static_cast<unsigned char>(line.back()) < 32) line.remove_suffix(1);
+  return line;
 }
 
-size_t firstToken(const std::string& text, size_t from, std::string* token) {
+size_t firstToken(std::string_view text, size_t from, std::string* token) {
   size_t start = from;
   while (start < text.size() && (text[start] == ' ' || text[start] == '\t')) ++start;
   size_t end = start;
   while (end < text.size() && static_cast<unsigned char>(text[end]) > 32) ++end;
-  token->assign(text, start, end - start);
+  token->assign(text.substr(start, end - start));
   return end;
 }
 
-std::string commaField(const std::string& line, int n) {
+std::string commaField(std::string_view line, int n) {
   size_t start = 0;
   bool quoted = false;
   for (int field = 0; field < n; ++start) {
@@ -51,10 +46,10 @@ std::string commaField(const std::string& line, int n) {
     else if (line[end] == ',' && !quoted) break;
   }
   while (start < end && (line[start] == ' ' || line[start] == '\b')) ++start;
-  std::string field = line.substr(start, end - start);
-  if (field.empty() || field[0] != '"') return field;
+  std::string_view field = line.substr(start, end - start);
+  if (field.empty() || field[0] != '"') return std::string(field);
   size_t lastQuote = field.rfind('"');
-  return lastQuote == 0 ? std::string() : field.substr(1, lastQuote - 1);
+  return lastQuote == 0 ? std::string() : std::string(field.substr(1, lastQuote - 1));
 }
 
 std::string memberName(const std::string& identifier) {
@@ -62,6 +57,4 @@ std::string memberName(const std::string& identifier) {
   return identifier;
 }
 
-bool startsWith(const std::string& text, const char* prefix) {
-  return text.compare(0, std::strlen(prefix), prefix) == 0;
-}
+bool startsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }

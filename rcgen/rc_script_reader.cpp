@@ -4,9 +4,9 @@
 
 #include <cstring>
 
+#include "foundation/text_encoding.h"
 #include "rcgen/rc_class_emitter.h"
 #include "rcgen/rc_line_fields.h"
-#include "rcgen/rc_text_encoding.h"
 
 namespace {
 
@@ -34,9 +34,9 @@ const WindowClass kWindowClasses[] = {
     {"SysTreeView32", "SYSTREEVIEW32", "TreeView"},
 };
 
-bool contains(const std::string& text, const char* part) { return text.find(part) != std::string::npos; }
+bool contains(std::string_view text, const char* part) { return text.find(part) != std::string_view::npos; }
 
-std::string frameworkClass(const std::string& windowClass, const std::string& style) {
+std::string frameworkClass(const std::string& windowClass, std::string_view style) {
   for (const WindowClass& known : kWindowClasses) {
     if (windowClass != known.spelling && windowClass != known.upperSpelling) continue;
     if (std::strcmp(known.spelling, "button") != 0) return known.frameworkClass;
@@ -55,16 +55,25 @@ bool isLanguageVariant(const std::string& name) {
   return n >= 6 && name[n - 5] == '_' && name[n - 2] >= '0' && name[n - 2] <= '9';
 }
 
-void readDialogs(const std::vector<std::string>& lines, const std::vector<RcDefine>& defines,
-                 const std::vector<RcMenuItem>& items, RcUnitText* unit) {
+// Each line of the script as the reader sees it: a line end and what follows a
+// zero byte dropped (the reader worked on C strings), then one trailing control
+// character.
+template <typename Visit>
+void forEachScriptLine(std::string_view text, Visit visit) {
+  TextModeLines lines(text, kLineLimit);
+  std::string_view line;
+  while (lines.next(&line)) visit(withoutLineEnd(line.substr(0, line.find('\0'))));
+}
+
+void readDialogs(std::string_view text, const std::vector<RcDefine>& defines, const std::vector<RcMenuItem>& items,
+                 RcUnitText* unit) {
   bool inside = false;
   RcDialog dialog;
-  for (std::string line : lines) {
-    dropLineEnd(&line);
+  forEachScriptLine(text, [&](std::string_view line) {
     if (!inside) {
-      if (!contains(line, " DIALOG ") && !contains(line, " DIALOGEX ")) continue;
+      if (!contains(line, " DIALOG ") && !contains(line, " DIALOGEX ")) return;
       dialog.name.assign(firstToken(line));
-      if (isLanguageVariant(dialog.name.str())) continue;
+      if (isLanguageVariant(dialog.name.str())) return;
       dialog.menu.clear();
       dialog.controls.clear();
       emitClassHead(dialog, &unit->header);
@@ -75,25 +84,19 @@ void readDialogs(const std::vector<std::string>& lines, const std::vector<RcDefi
     } else {
       std::string token = firstToken(line);
       RcControl control;
-      if (token == "MENU") dialog.menu.assign(line.size() > 5 ? line.substr(5) : "");
+      if (token == "MENU") dialog.menu.assign(std::string(line.size() > 5 ? line.substr(5) : ""));
       else if (token == "CONTROL" && readRcControl(line, defines, &control)) addWithinCapacity(&dialog.controls, control);
     }
-  }
+  });
 }
 
 }  // namespace
 
-std::vector<std::string> rcScriptLines(const std::string& script) {
-  std::vector<std::string> lines = textModeLines(script, kLineLimit);
-  // The reader works on C strings: a zero byte ends the line's text.
-  for (std::string& line : lines) line.resize(std::strlen(line.c_str()));
-  return lines;
-}
-
-std::vector<RcDefine> readRcDefines(const std::vector<std::string>& lines) {
+std::vector<RcDefine> readRcDefines(std::string_view text) {
   std::vector<RcDefine> defines;
-  for (const std::string& line : lines) {
-    if (!startsWith(line, "#define")) continue;
+  bool full = false;
+  forEachScriptLine(text, [&](std::string_view line) {
+    if (full || !startsWith(line, "#define")) return;
     std::string name;
     std::string value;
     size_t end = firstToken(line, line.size() < 8 ? line.size() : 8, &name);
@@ -101,8 +104,8 @@ std::vector<RcDefine> readRcDefines(const std::vector<std::string>& lines) {
     RcDefine define;
     define.name.assign(name);
     define.value.assign(value);
-    if (!addWithinCapacity(&defines, define)) break;
-  }
+    full = !addWithinCapacity(&defines, define);
+  });
   return defines;
 }
 
@@ -112,14 +115,13 @@ const RcDefine* findRcDefine(const std::vector<RcDefine>& defines, const std::st
   return nullptr;
 }
 
-std::vector<RcMenuItem> readRcMenuItems(const std::vector<std::string>& lines, const std::vector<RcDefine>& defines) {
+std::vector<RcMenuItem> readRcMenuItems(std::string_view text, const std::vector<RcDefine>& defines) {
   std::vector<RcMenuItem> items;
   bool inside = false;
   FixedText<50> menu;
-  for (std::string line : lines) {
-    dropLineEnd(&line);
+  forEachScriptLine(text, [&](std::string_view line) {
     if (!inside) {
-      if (!contains(line, " MENU")) continue;
+      if (!contains(line, " MENU")) return;
       menu.assign(firstToken(line));
       inside = true;
     } else if (!line.empty() && line[0] == '}') {
@@ -127,22 +129,22 @@ std::vector<RcMenuItem> readRcMenuItems(const std::vector<std::string>& lines, c
     } else if (firstToken(line) == "MENUITEM") {
       std::string identifier = commaField(line, 1);
       const RcDefine* define = findRcDefine(defines, identifier);
-      if (!define) continue;  // separators, numeric and unknown identifiers
+      if (!define) return;  // separators, numeric and unknown identifiers
       RcMenuItem item;
       item.member.assign(memberName(identifier));
       item.menu = menu;
       item.code.assign(define->value.str());
       addWithinCapacity(&items, item);
     }
-  }
+  });
   return items;
 }
 
-bool readRcControl(const std::string& line, const std::vector<RcDefine>& defines, RcControl* control) {
+bool readRcControl(std::string_view line, const std::vector<RcDefine>& defines, RcControl* control) {
   std::string token;
   size_t start = firstToken(line, 0, &token);
   while (start < line.size() && line[start] == ' ') ++start;
-  std::string rest = line.substr(start);
+  std::string_view rest = line.substr(start);
   std::string className = frameworkClass(commaField(rest, 2), commaField(rest, 3));
   if (className.empty()) return false;
 
@@ -163,11 +165,10 @@ bool readRcControl(const std::string& line, const std::vector<RcDefine>& defines
 }
 
 void readRcScript(const std::string& script, RcUnitText* unit) {
-  std::string text;
-  decodeScript(script, &text);
-  std::vector<std::string> lines = rcScriptLines(text);
-  std::vector<RcDefine> defines = readRcDefines(lines);
-  std::vector<RcMenuItem> items = readRcMenuItems(lines, defines);
+  std::string decoded;
+  std::string_view text = textOf(script, &decoded);
+  std::vector<RcDefine> defines = readRcDefines(text);
+  std::vector<RcMenuItem> items = readRcMenuItems(text, defines);
   emitMenuMacros(items, &unit->header);
-  readDialogs(lines, defines, items, unit);
+  readDialogs(text, defines, items, unit);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "rcgen/rc_script_model.h"
@@ -12,14 +13,14 @@
 // nothing are skipped, so any input is accepted. Never fails.
 void readRcScript(const std::string& script, RcUnitText* unit);
 
-// The passes, for tests and tools that want the tables themselves.
-std::vector<std::string> rcScriptLines(const std::string& script);
-std::vector<RcDefine> readRcDefines(const std::vector<std::string>& lines);
-std::vector<RcMenuItem> readRcMenuItems(const std::vector<std::string>& lines, const std::vector<RcDefine>& defines);
+// The passes over the script's text (UTF-8 when the script was UTF-16), for
+// tests and tools that want the tables themselves.
+std::vector<RcDefine> readRcDefines(std::string_view text);
+std::vector<RcMenuItem> readRcMenuItems(std::string_view text, const std::vector<RcDefine>& defines);
 
 // The first entry named exactly `name`, or null.
 const RcDefine* findRcDefine(const std::vector<RcDefine>& defines, const std::string& name);
 
 // The control of a CONTROL line, or false when the line yields none (an
 // unsupported class, a numeric or unknown identifier).
-bool readRcControl(const std::string& line, const std::vector<RcDefine>& defines, RcControl* control);
+bool readRcControl(std::string_view line, const std::vector<RcDefine>& defines, RcControl* control);

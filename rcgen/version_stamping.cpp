@@ -8,8 +8,8 @@
 
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
+#include "foundation/text_encoding.h"
 #include "rcgen/rc_line_fields.h"
-#include "rcgen/rc_text_encoding.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ struct Version {
 
 // Reads a decimal integer as "%d" does: blanks skipped, an optional sign, at
 // least one digit. Values beyond 32 bits stop at the nearest bound.
-bool scanInteger(const std::string& text, size_t* at, int32_t* value) {
+bool scanInteger(std::string_view text, size_t* at, int32_t* value) {
   size_t i = *at;
   while (i < text.size() && (text[i] == ' ' || (text[i] >= '\t' && text[i] <= '\r'))) ++i;
   bool negative = false;
@@ -37,7 +37,7 @@ bool scanInteger(const std::string& text, size_t* at, int32_t* value) {
 }
 
 // "%d,%d,%d,%d": fields after the first that fails keep their values.
-void scanVersion(const std::string& text, Version* version) {
+void scanVersion(std::string_view text, Version* version) {
   size_t at = 0;
   for (int field = 0; field < 4; ++field) {
     if (field > 0) {
@@ -62,11 +62,11 @@ std::string findName(const std::vector<DirectoryEntry>& entries, const char* nam
 }
 
 bool writeStamped(const std::string& path, const std::string& bytes, int32_t* buildNumber, std::string* err) {
-  std::string text;
-  ScriptEncoding encoding = decodeScript(bytes, &text);
-  std::string stamped = stampVersionText(text, buildNumber);
-  if (encoding == ScriptEncoding::Bytes) return os().writeTextFileAtomic(path, stamped, err);
-  return os().writeFileAtomic(path, encodeScript(stamped, encoding), err);
+  std::string decoded;
+  TextEncoding encoding = TextEncoding::Bytes;
+  std::string stamped = stampVersionText(textOf(bytes, &decoded, &encoding), buildNumber);
+  if (encoding == TextEncoding::Bytes) return os().writeTextFileAtomic(path, stamped, err);
+  return os().writeFileAtomic(path, encodeText(stamped, encoding), err);
 }
 
 void stampDirectory(const std::string& directory, const std::vector<DirectoryEntry>& entries, int32_t* buildNumber,
@@ -103,11 +103,14 @@ void visit(const std::string& directory, int32_t* buildNumber, RcRunReport* repo
 
 }  // namespace
 
-std::string stampVersionText(const std::string& text, int32_t* buildNumber) {
+std::string stampVersionText(std::string_view text, int32_t* buildNumber) {
   Version version = {{1, 0, 0, *buildNumber}};
   std::string out;
-  for (std::string line : textModeLines(text, kNoLineLimit)) {
-    dropLineEnd(&line);
+  out.reserve(text.size() + text.size() / 16);  // room for the line ends a lone CR gains
+  TextModeLines lines(text, kNoLineLimit);
+  std::string_view line;
+  while (lines.next(&line)) {
+    line = withoutLineEnd(line);
     if (line.size() > 11 && startsWith(line, "FILEVERSION")) {
       scanVersion(line.substr(12), &version);
       if (*buildNumber <= version.number[3]) *buildNumber = version.number[3] == INT32_MAX ? INT32_MAX : version.number[3] + 1;
@@ -116,7 +119,8 @@ std::string stampVersionText(const std::string& text, int32_t* buildNumber) {
     } else if (line.size() > 25 && startsWith(line, kFileVersionValue)) {
       out += format("   VALUE \"FileVersion\", \"%d.%d.%d.%d\\000\\000\"\n", version);
     } else {
-      out += line + "\n";
+      out += line;
+      out += '\n';
     }
   }
   return out;

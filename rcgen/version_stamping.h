@@ -5,13 +5,14 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "rcgen/rc_run_report.h"
 
 // The stamped text of one version script. The version starts as 1, 0, 0 and
 // *buildNumber; a FILEVERSION line whose build is not below the counter moves
 // the counter past it. Lines that match neither rule are copied as they are.
-std::string stampVersionText(const std::string& text, int32_t* buildNumber);
+std::string stampVersionText(std::string_view text, int32_t* buildNumber);
 
 // One stamping run: adds 1 to *buildNumber, then stamps every directory of the
 // tree below `directory` before the directory itself. Stamped files go to

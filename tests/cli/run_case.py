@@ -5,6 +5,8 @@ standard output, standard error, the exit status and, optionally, files left beh
 A case folder holds:
   args      the arguments, one per line (required)
   setup/    copied into the temporary directory, which is the working directory
+  prepare   a shell script run there after the copy, for what a folder cannot hold
+            (FIFOs, links to devices, very deep or very large files)
   stdin     fed to standard input (default: nothing)
   env       extra environment, KEY=VALUE per line
   stdout    expected standard output (default: empty)
@@ -38,6 +40,9 @@ def main():
         setup = os.path.join(case, "setup")
         if os.path.isdir(setup):
             shutil.copytree(setup, tmp, dirs_exist_ok=True)
+        prepare = os.path.join(case, "prepare")
+        if os.path.isfile(prepare):
+            subprocess.run(["sh", os.path.abspath(prepare)], cwd=tmp, check=True)
         env = dict(os.environ)
         env["KESTO_SETTINGS"] = os.path.join(tmp, "settings.reg")
         env["LC_ALL"] = "C"

@@ -64,6 +64,15 @@ TEST_F(SettingsTest, ListsRoundTripAndMissingEntriesReadNotFound) {
   EXPECT_EQ(store_.readList("TopBar", "IDE").back(), "not found");
 }
 
+TEST_F(SettingsTest, ListEntriesFollowTheRulesOfSingleReads) {
+  // Names in any case, the last of two spellings winning, and a value too long to read.
+  dir_.write("settings.reg",
+             "REGEDIT4\n\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Borland\\Borland C++\\5.0\\Ide\\AddOns\\Kestoaob\\TopBar]\n"
+             "\"NbIDE\"=\"3\"\n\n[hkey_local_machine\\software\\borland\\borland c++\\5.0\\ide\\addons\\kestoaob\\topbar\\ide]\n"
+             "\"ENTRY0\"=\"a.ide\"\n\"Entry1\"=\"" + std::string(2000, 'x') + "\"\n\"entry0\"=\"b.ide\"\n");
+  EXPECT_EQ(store_.readList("TopBar", "IDE"), (std::vector<std::string>{"b.ide", "not found", "not found"}));
+}
+
 TEST_F(SettingsTest, FixtureReadsAsTheRegistryHoldsIt) {
   SettingsFile fixture(goldenPath("settings") + kPathSeparator + "fixture.reg");
   store_.setBackend(&fixture);

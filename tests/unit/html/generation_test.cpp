@@ -78,4 +78,22 @@ TEST(HtmlGeneration, AFailureOfAnyFileOperationLeavesOnlyWholePages) {
   }
 }
 
+TEST(HtmlGeneration, ReadsUtf16SourcesAndNamesTheSourcesItCouldNotRead) {
+  TempDir dir;
+  std::string wide = "\xFF\xFE";
+  for (char c : std::string("CALCUL_INT run(void)\r\n")) wide += std::string{c, '\0'};
+  dir.write("wide.cpp", wide);
+  dir.write("zlost.cpp", "CALCUL_INT lost(void)\n");
+  FaultOs faults;
+  faults.failAt = 3;  // the listing, wide.cpp, then zlost.cpp
+  ScopedOs scoped(faults);
+  htProjet project("Demo", dir.path(), "*.cpp");
+  std::vector<SkippedPath> skipped;
+  ASSERT_TRUE(buildHtProject(project, nullptr, &skipped));
+  ASSERT_EQ(1, project.functions.count());
+  EXPECT_EQ("run", project.functions[0]->name.str());
+  ASSERT_EQ(1u, skipped.size());
+  EXPECT_EQ(dir.file("zlost.cpp"), skipped[0].path);
+}
+
 }  // namespace

@@ -36,17 +36,27 @@ TEST(RcLineFieldsTest, MemberNamesDropAThreeLetterPrefix) {
   EXPECT_EQ(memberName("IDC_X"), "X");
 }
 
+namespace {
+
+std::vector<std::string> linesOf(std::string_view text, size_t limit) {
+  std::vector<std::string> lines;
+  TextModeLines reader(text, limit);
+  std::string_view line;
+  while (reader.next(&line)) lines.emplace_back(withoutLineEnd(line));
+  return lines;
+}
+
+}  // namespace
+
 TEST(RcLineFieldsTest, TextModeLinesJoinCrLfAndCutAtTheLimit) {
   using Lines = std::vector<std::string>;
-  EXPECT_EQ(textModeLines("a\r\nb\nc", kNoLineLimit), (Lines{"a\n", "b\n", "c"}));
-  EXPECT_EQ(textModeLines("a\rb\r", kNoLineLimit), (Lines{"a\n", "b\n"})) << "old Mac line ends";
-  EXPECT_EQ(textModeLines("abcdefg\nh", 3), (Lines{"abc", "def", "g\n", "h"}));
-  EXPECT_EQ(textModeLines("", kNoLineLimit), Lines{});
+  EXPECT_EQ(linesOf("a\r\nb\nc", kNoLineLimit), (Lines{"a", "b", "c"}));
+  EXPECT_EQ(linesOf("a\rb\r", kNoLineLimit), (Lines{"a", "b"})) << "old Mac line ends";
+  EXPECT_EQ(linesOf("abcdefg\nh", 3), (Lines{"abc", "def", "g", "h"}));
+  EXPECT_EQ(linesOf("ab\r\ncd", 3), (Lines{"ab", "cd"})) << "CR LF counts as one character of the piece";
+  EXPECT_EQ(linesOf("", kNoLineLimit), Lines{});
 
-  std::string line = "x\t";
-  dropLineEnd(&line);
-  EXPECT_EQ(line, "x") << "one control character goes, whatever it is";
-  line = "caf\xe9";
-  dropLineEnd(&line);
-  EXPECT_EQ(line, "caf\xe9");
+  EXPECT_EQ(withoutLineEnd("x\t"), "x") << "one control character goes, whatever it is";
+  EXPECT_EQ(withoutLineEnd("x\t\r\n"), "x\t") << "a line end, and only it";
+  EXPECT_EQ(withoutLineEnd("caf\xe9"), "caf\xe9");
 }

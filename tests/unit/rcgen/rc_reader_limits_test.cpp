@@ -27,7 +27,7 @@ TEST(RcReaderLimitsTest, TablesStopAt255Entries) {
   for (int i = 1; i <= 300; ++i) script += editControl("IDC_E" + std::to_string(i));
   script += editControl("IDOK") + "}\n";
 
-  std::vector<RcDefine> defines = readRcDefines(rcScriptLines(script));
+  std::vector<RcDefine> defines = readRcDefines(script);
   EXPECT_EQ(defines.size(), 255u);
   RcUnitText unit;
   readRcScript(script, &unit);
@@ -44,7 +44,7 @@ TEST(RcReaderLimitsTest, LongNamesAreCutAtTheirFieldWidths) {
   std::string menu(70, 'M');
   std::string script = "#define " + identifier + " " + value + "\n" + dialog + " DIALOG 0, 0, 1, 1\nMENU " + menu +
                        "\n{\n" + editControl(identifier) + "}\n";
-  std::vector<RcDefine> defines = readRcDefines(rcScriptLines(script));
+  std::vector<RcDefine> defines = readRcDefines(script);
   ASSERT_EQ(defines.size(), 1u);
   EXPECT_EQ(defines[0].name.str(), identifier.substr(0, 69));
   EXPECT_EQ(defines[0].value.str(), value.substr(0, 49));

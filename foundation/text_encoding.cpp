@@ -1,5 +1,5 @@
-// UTF-16 scripts to UTF-8 and back.
-#include "rcgen/rc_text_encoding.h"
+// UTF-16 texts to UTF-8 and back.
+#include "foundation/text_encoding.h"
 
 #include <cstdint>
 
@@ -26,7 +26,7 @@ void appendUtf8(uint32_t c, std::string* out) {
 }
 
 // The next code point of UTF-8 text; a malformed sequence gives U+FFFD for its first byte.
-uint32_t nextUtf8(const std::string& text, size_t* at) {
+uint32_t nextUtf8(std::string_view text, size_t* at) {
   auto byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
   unsigned char lead = byte(*at);
   ++*at;
@@ -42,10 +42,10 @@ uint32_t nextUtf8(const std::string& text, size_t* at) {
   return c > 0x10FFFF || (c >= 0xD800 && c < 0xE000) ? kReplacement : c;
 }
 
-void appendUnit(uint32_t unit, ScriptEncoding encoding, std::string* out) {
+void appendUnit(uint32_t unit, TextEncoding encoding, std::string* out) {
   char low = static_cast<char>(unit & 0xFF);
   char high = static_cast<char>(unit >> 8);
-  if (encoding == ScriptEncoding::Utf16Le) {
+  if (encoding == TextEncoding::Utf16Le) {
     *out += low;
     *out += high;
   } else {
@@ -56,20 +56,19 @@ void appendUnit(uint32_t unit, ScriptEncoding encoding, std::string* out) {
 
 }  // namespace
 
-ScriptEncoding decodeScript(const std::string& bytes, std::string* text) {
-  ScriptEncoding encoding = ScriptEncoding::Bytes;
-  if (bytes.size() >= 2 && bytes[0] == '\xFF' && bytes[1] == '\xFE') encoding = ScriptEncoding::Utf16Le;
-  if (bytes.size() >= 2 && bytes[0] == '\xFE' && bytes[1] == '\xFF') encoding = ScriptEncoding::Utf16Be;
-  if (encoding == ScriptEncoding::Bytes) {
-    *text = bytes;
-    return encoding;
-  }
+std::string_view textOf(const std::string& bytes, std::string* text, TextEncoding* encodingFound) {
+  TextEncoding encoding = TextEncoding::Bytes;
+  if (bytes.size() >= 2 && bytes[0] == '\xFF' && bytes[1] == '\xFE') encoding = TextEncoding::Utf16Le;
+  if (bytes.size() >= 2 && bytes[0] == '\xFE' && bytes[1] == '\xFF') encoding = TextEncoding::Utf16Be;
+  if (encodingFound) *encodingFound = encoding;
+  if (encoding == TextEncoding::Bytes) return bytes;
   auto unitAt = [&](size_t i) -> uint32_t {
     uint32_t first = static_cast<unsigned char>(bytes[i]);
     uint32_t second = static_cast<unsigned char>(bytes[i + 1]);
-    return encoding == ScriptEncoding::Utf16Le ? first | (second << 8) : (first << 8) | second;
+    return encoding == TextEncoding::Utf16Le ? first | (second << 8) : (first << 8) | second;
   };
   text->clear();
+  text->reserve(bytes.size() / 2);  // the common case, mostly ASCII
   for (size_t i = 2; i + 1 < bytes.size(); i += 2) {
     uint32_t unit = unitAt(i);
     if (unit >= 0xD800 && unit < 0xDC00 && i + 3 < bytes.size()) {
@@ -83,12 +82,13 @@ ScriptEncoding decodeScript(const std::string& bytes, std::string* text) {
     appendUtf8(unit >= 0xD800 && unit < 0xE000 ? kReplacement : unit, text);
   }
   if (bytes.size() % 2 != 0) appendUtf8(kReplacement, text);
-  return encoding;
+  return *text;
 }
 
-std::string encodeScript(const std::string& text, ScriptEncoding encoding) {
-  if (encoding == ScriptEncoding::Bytes) return text;
+std::string encodeText(std::string_view text, TextEncoding encoding) {
+  if (encoding == TextEncoding::Bytes) return std::string(text);
   std::string out;
+  out.reserve(text.size() * 2 + 2);
   appendUnit(0xFEFF, encoding, &out);
   for (size_t at = 0; at < text.size();) {
     uint32_t c = nextUtf8(text, &at);

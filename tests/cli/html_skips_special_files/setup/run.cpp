@@ -1,0 +1,3 @@
+/** run Starts
+*/
+CALCUL_INT run(void)

@@ -1,0 +1,4 @@
+void Frame::Paint(int x)
+{
+  Paint(x - 1);
+}
