@@ -1,6 +1,7 @@
 // Parser and writer of REGEDIT4 files.
 #include "foundation/regedit_text.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <unordered_map>
@@ -68,23 +69,23 @@ bool parseData(const std::string& data, std::string* text) {
 }
 
 // Where the parser finds the keys and values it has read: a file with
-// thousands of keys or values must not be searched once per line.
+// thousands of keys or values must not be searched once per line. One value
+// index for the whole file, sized once from its line count, spares the
+// rehashing that a table per key would do as it grows.
 class RegeditIndex {
  public:
-  explicit RegeditIndex(RegeditDocument* document) : document_(document) {}
+  RegeditIndex(RegeditDocument* document, size_t lines) : document_(document) { values_.reserve(lines); }
 
   size_t keyNamed(const std::string& path) {
     auto found = keys_.emplace(foldedCase(path), document_->keys.size());
-    if (found.second) {
-      document_->keys.push_back(RegeditKey{path, {}});
-      values_.emplace_back();
-    }
+    if (found.second) document_->keys.push_back(RegeditKey{path, {}});
     return found.first->second;
   }
 
   void setValue(size_t key, const std::string& name, const std::string& text) {
     std::vector<RegeditValue>& values = document_->keys[key].values;
-    auto found = values_[key].emplace(foldedCase(name), values.size());
+    // A line end never occurs in a name: it keeps the key's number apart.
+    auto found = values_.emplace(std::to_string(key) + '\n' + foldedCase(name), values.size());
     if (found.second)
       values.push_back(RegeditValue{name, text});
     else
@@ -94,7 +95,7 @@ class RegeditIndex {
  private:
   RegeditDocument* document_;
   std::unordered_map<std::string, size_t> keys_;
-  std::vector<std::unordered_map<std::string, size_t>> values_;  // by key
+  std::unordered_map<std::string, size_t> values_;  // "KEY\nNAME" to the value's position in its key
 };
 
 }  // namespace
@@ -131,7 +132,7 @@ RegeditValue* findValue(RegeditKey& key, const std::string& name) {
 
 bool parseRegedit(const std::string& text, RegeditDocument* document, std::string* err) {
   document->keys.clear();
-  RegeditIndex index(document);
+  RegeditIndex index(document, static_cast<size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
   constexpr size_t kNoKey = static_cast<size_t>(-1);
   size_t current = kNoKey;
   bool sawHeader = false;
