@@ -140,7 +140,7 @@ const Reader kReaders[] = {
 
 // A field of /proc/self/status in kB, or 0.
 size_t statusKilobytes(const char* field) {
-  std::unique_ptr<OsFile> file = os().openFile("/proc/self/status", FileAccess::Read, nullptr);
+  std::unique_ptr<OsFile> file = os().openFile("/proc/self/status", nullptr);
   if (!file) return 0;
   std::string text;
   char buffer[4096];
@@ -162,7 +162,7 @@ Run measure(const Reader& reader, const std::string& path, size_t size) {
     // Memory freed by the previous run would otherwise stay resident and be
     // reused unseen; "5" then resets the high-water mark to the resident size.
     malloc_trim(0);
-    os().appendFile("/proc/self/clear_refs", "5", nullptr);
+    os().writeFile("/proc/self/clear_refs", "5", nullptr);
     size_t before = statusKilobytes("VmRSS:");
     auto start = std::chrono::steady_clock::now();
     reader.read(path);

@@ -1,12 +1,14 @@
 // The bar's commands handed to their owners, by the portable command table.
 #include "ide/bar_commands_win32.h"
 
+#include "html/ht_thread_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/feature_commands_win32.h"
 #include "ide/general_behaviours_win32.h"
 #include "ide/project_client_win32.h"
 #include "ide/help_file_win32.h"
 #include "ide/hook_set_win32.h"
+#include "ide/ide_host_win32.h"
 #include "ide/open_file_win32.h"
 #include "topbar/top_bar_win32.h"
 
@@ -98,6 +100,9 @@ bool dispatchBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
       return true;
     case kOpenFoundFileMessage:
       openFoundFile(bar, line, path);
+      return true;
+    case kHtmlReportMessage:
+      ideHost().showStatus(*takeHtmlReport(lParam));
       return true;
     default:
       return false;

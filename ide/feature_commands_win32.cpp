@@ -61,7 +61,7 @@ void generateHtmlCommand() {
   const ProjectOptions* options = openProjectOptions();
   const std::string projectFile = ideHost().projectFile();
   if (!options || projectFile.empty()) return;
-  startHtmlGenerationThread(directoryOf(projectFile), options->htmlFilters, htProjectName(projectFile));
+  startHtmlGenerationThread(directoryOf(projectFile), options->htmlFilters, htProjectName(projectFile), addon().bar);
 }
 
 void openHtmlCommand() {

@@ -49,7 +49,7 @@ void makeEnded(bool succeeded) {
   if (!addon().makeSequence) return;
   const std::string projectFile = ideHost().projectFile();
   addon().makeSequence->ended(ideHost(), succeeded, [&projectFile](const std::string& directory, const std::string& filters) {
-    startHtmlGenerationThread(directory, filters, htProjectName(projectFile));
+    startHtmlGenerationThread(directory, filters, htProjectName(projectFile), addon().bar);
   });
 }
 

@@ -107,4 +107,33 @@ TEST(DocumentationCommandsTest, GeneratesOnAWorkerThreadAndRefusesASecondRunMean
   EXPECT_EQ(watchdog.boxes().size(), 1u);
 }
 
+TEST(DocumentationCommandsTest, ASourceThatCannotBeReadIsNamedOnTheStatusLine) {
+  RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+  const std::string project = testFolder("html-skipped");
+  std::ofstream(project + "\\open.cpp") << "int open(int a) { return a; }\n";
+  std::ofstream(project + "\\held.cpp") << "int held(int a) { return a; }\n";
+  // Held with no sharing, as another program's exclusive handle would.
+  HANDLE held = CreateFileA((project + "\\held.cpp").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  removePages(project + "\\kHTML");
+  MessageBoxWatchdog watchdog;
+  TestIde ide;
+  ide.project.projectFile = project + "\\SKIP.IDE";
+  ide.project.addNode(0, "skip.exe", ".exe");
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide));
+  ide.project.clients[0]->ProjectOpened(nullptr);
+  sendBarCommand(194);
+  auto skippedShown = [&ide] {
+    return !ide.statusLine.texts.empty() && ide.statusLine.texts.back().find("Skipped 1 path") == 0;
+  };
+  EXPECT_TRUE(pumpUntil(skippedShown, 20000)) << "the worker's report reaches the IDE's thread";
+  ASSERT_FALSE(ide.statusLine.texts.empty());
+  EXPECT_NE(ide.statusLine.texts.back().find("held.cpp"), std::string::npos) << ide.statusLine.texts.back();
+  CloseHandle(held);
+  ide.project.clients[0]->ProjectClosed();
+  addon.stop();
+  removePages(project + "\\kHTML");
+}
+
 }  // namespace
