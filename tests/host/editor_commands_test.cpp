@@ -71,69 +71,76 @@ TEST(CompletionKeyTest, CompletesTheWordBeforeTheCaretAndMovesTheCaret) {
   EXPECT_TRUE(watchdog.boxes().empty());
 }
 
-TEST(DocumentationCommandsTest, GeneratesOnAWorkerThreadAndRefusesASecondRunMeanwhile) {
-  RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
-  const std::string project = testFolder("html-project");
+// A project of one target in a test folder, open in the IDE with the add-on
+// loaded, its old site removed.
+class DocumentationCommandsTest : public ::testing::Test {
+ protected:
+  void open(const std::string& folder, const std::string& projectName) {
+    RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
+    project_ = testFolder(folder);
+    site_ = project_ + "\\kHTML";
+    removePages(site_);
+    ide_.project.projectFile = project_ + "\\" + projectName + ".IDE";
+    ide_.project.addNode(0, "docs.exe", ".exe");
+    ASSERT_TRUE(addon_.start(&ide_));
+    ide_.project.clients[0]->ProjectOpened(nullptr);
+  }
+  void close() {
+    ide_.project.clients[0]->ProjectClosed();
+    addon_.stop();
+  }
+
+  MessageBoxWatchdog watchdog_;
+  TestIde ide_;
+  LoadedAddon addon_{kAddon};
+  std::string project_;
+  std::string site_;
+};
+
+TEST_F(DocumentationCommandsTest, GeneratesOnAWorkerThreadAndRefusesASecondRunMeanwhile) {
   const int sources = 300;
+  const std::string folder = testFolder("html-project");
   for (int i = 0; i < sources; ++i)
-    std::ofstream(project + "\\unit" + std::to_string(i) + ".cpp") << "int compute" << i << "(int a) { return a; }\n";
-  const std::string site = project + "\\kHTML";
-  removePages(site);
-  MessageBoxWatchdog watchdog;
-  TestIde ide;
-  ide.project.projectFile = project + "\\DOCS.IDE";
-  ide.project.addNode(0, "docs.exe", ".exe");
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide));
-  ide.project.clients[0]->ProjectOpened(nullptr);
+    std::ofstream(folder + "\\unit" + std::to_string(i) + ".cpp") << "int compute" << i << "(int a) { return a; }\n";
+  open("html-project", "DOCS");
 
   sendBarCommand(194);
-  ASSERT_TRUE(pumpUntil([&site] { return filesIn(site) > 0; }, 20000)) << "the site is being written";
+  ASSERT_TRUE(pumpUntil([this] { return filesIn(site_) > 0; }, 20000)) << "the site is being written";
   sendBarCommand(194);
-  EXPECT_EQ(watchdog.boxes(), std::vector<std::string>{"Warning: HTML generation in progress"});
-  EXPECT_TRUE(pumpUntil([&site] { return filesIn(site) >= 5 + 2 * sources; }, 60000)) << filesIn(site);
+  EXPECT_EQ(watchdog_.boxes(), std::vector<std::string>{"Warning: HTML generation in progress"});
+  EXPECT_TRUE(pumpUntil([this] { return filesIn(site_) >= 5 + 2 * sources; }, 60000)) << filesIn(site_);
   pumpMessages(500);  // the thread ends after its last page
 
   // The test prefix has no browser: the shell's failure names the page it was asked to open.
   sendBarCommand(195);
-  ASSERT_FALSE(ide.statusLine.texts.empty());
-  EXPECT_NE(ide.statusLine.texts.back().find(site + "\\Documentation DOCS.html: error"), std::string::npos)
-      << ide.statusLine.texts.back();
-  removePages(site);
+  ASSERT_FALSE(ide_.statusLine.texts.empty());
+  EXPECT_NE(ide_.statusLine.texts.back().find(site_ + "\\Documentation DOCS.html: error"), std::string::npos)
+      << ide_.statusLine.texts.back();
+  removePages(site_);
   sendBarCommand(194);
-  ide.project.clients[0]->ProjectClosed();
-  addon.stop();
-  EXPECT_EQ(filesIn(site), 5 + 2 * sources) << "the add-on waits for its generation before it goes";
-  EXPECT_EQ(watchdog.boxes().size(), 1u);
+  close();
+  EXPECT_EQ(filesIn(site_), 5 + 2 * sources) << "the add-on waits for its generation before it goes";
+  EXPECT_EQ(watchdog_.boxes().size(), 1u);
 }
 
-TEST(DocumentationCommandsTest, ASourceThatCannotBeReadIsNamedOnTheStatusLine) {
-  RegDeleteTreeA(HKEY_LOCAL_MACHINE, SettingsStore::kAddOnRoot);
-  const std::string project = testFolder("html-skipped");
-  std::ofstream(project + "\\open.cpp") << "int open(int a) { return a; }\n";
-  std::ofstream(project + "\\held.cpp") << "int held(int a) { return a; }\n";
+TEST_F(DocumentationCommandsTest, ASourceThatCannotBeReadIsNamedOnTheStatusLine) {
+  const std::string folder = testFolder("html-skipped");
+  std::ofstream(folder + "\\open.cpp") << "int open(int a) { return a; }\n";
+  std::ofstream(folder + "\\held.cpp") << "int held(int a) { return a; }\n";
   // Held with no sharing, as another program's exclusive handle would.
-  HANDLE held = CreateFileA((project + "\\held.cpp").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  HANDLE held = CreateFileA((folder + "\\held.cpp").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
   ASSERT_NE(held, INVALID_HANDLE_VALUE);
-  removePages(project + "\\kHTML");
-  MessageBoxWatchdog watchdog;
-  TestIde ide;
-  ide.project.projectFile = project + "\\SKIP.IDE";
-  ide.project.addNode(0, "skip.exe", ".exe");
-  LoadedAddon addon(kAddon);
-  ASSERT_TRUE(addon.start(&ide));
-  ide.project.clients[0]->ProjectOpened(nullptr);
+  open("html-skipped", "SKIP");
   sendBarCommand(194);
-  auto skippedShown = [&ide] {
-    return !ide.statusLine.texts.empty() && ide.statusLine.texts.back().find("Skipped 1 path") == 0;
+  auto skippedShown = [this] {
+    return !ide_.statusLine.texts.empty() && ide_.statusLine.texts.back().find("Skipped 1 path") == 0;
   };
   EXPECT_TRUE(pumpUntil(skippedShown, 20000)) << "the worker's report reaches the IDE's thread";
-  ASSERT_FALSE(ide.statusLine.texts.empty());
-  EXPECT_NE(ide.statusLine.texts.back().find("held.cpp"), std::string::npos) << ide.statusLine.texts.back();
+  ASSERT_FALSE(ide_.statusLine.texts.empty());
+  EXPECT_NE(ide_.statusLine.texts.back().find("held.cpp"), std::string::npos) << ide_.statusLine.texts.back();
   CloseHandle(held);
-  ide.project.clients[0]->ProjectClosed();
-  addon.stop();
-  removePages(project + "\\kHTML");
+  close();
+  removePages(site_);
 }
 
 }  // namespace
