@@ -51,7 +51,11 @@ class TaskSession {
       session_.exitStatus = kExitNothing;
       return false;
     }
-    tasks_.load();
+    if (!tasks_.load(&err)) {
+      reportError(err);
+      session_.exitStatus = kExitUsage;
+      return false;
+    }
     tasks_.rebuildView();
     mail_.loadSettings();
     loadRecipientsFromProject(mail_, project);

@@ -8,6 +8,7 @@
 #include "delivery/deliv_tool_win32.h"
 #include "delivery/delivery_run.h"
 #include "delivery/mail.h"
+#include "foundation/alert.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
 #include "groupware/groupware_settings.h"
@@ -98,7 +99,8 @@ namespace {
 void readOpenProject(const std::string& projectFile) {
   if (addon().tasks) {
     addon().tasks->filePath = projectFile + ".tsk";
-    addon().tasks->load();
+    std::string err;
+    if (!addon().tasks->load(&err)) alert(err, "Kesto AddOn error", kAlertIconExclamation);
     // The report is built once the project has finished opening.
     if (addon().bar && shouldFlashAtProjectOpen(*addon().tasks, flashMarkerPath(projectFile)))
       PostMessageA(addon().bar, WM_COMMAND, kAutomaticFlashCommand, 0);

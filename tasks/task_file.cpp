@@ -4,11 +4,25 @@
 #include "foundation/binary_io.h"
 #include "tasks/task_list.h"
 
-void TaskList::load() {
+bool TaskList::load(std::string* err) {
+  damagedFile_ = false;
+  const std::string path = filePath.str();
+  if (!os().exists(path)) return true;
   std::string bytes;
-  if (!os().readFile(filePath.str(), &bytes, nullptr)) return;
+  std::string why;
+  if (!os().readFile(path, &bytes, &why)) {
+    damagedFile_ = true;
+    if (err) *err = path + ": cannot read the tasks (" + why + "); the file is left as it is";
+    return false;
+  }
+  if (bytes.empty()) return true;
   ByteStream file(std::move(bytes));
-  readFrom(file);
+  if (readFrom(file)) return true;
+  damagedFile_ = true;
+  if (err)
+    *err = path + ": damaged task file, read as far as " + std::to_string(count()) +
+           " task(s); it is left as it is and nothing is saved over it";
+  return false;
 }
 
 bool TaskList::readFrom(ByteStream& file) {
@@ -59,6 +73,10 @@ bool TaskList::writeTo(ByteStream& file) {
 }
 
 bool TaskList::save(std::string* err) {
+  if (damagedFile_) {
+    if (err) *err = filePath.str() + " was damaged when it was read: it is not saved over";
+    return false;
+  }
   ByteStream file;
   if (!writeTo(file)) {
     if (err) *err = "cannot write the tasks of " + filePath.str();

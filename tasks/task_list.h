@@ -36,12 +36,16 @@ class TaskList : public Ensemble<Task> {
   void loadSettings();
   void saveSettings();
 
-  // Reads the task file. A file that cannot be opened, or whose header is bad,
-  // leaves the list as it is; a bad record ends the reading and keeps the tasks
-  // read before it. Rebuilds the view after a read.
-  void load();
-  // Writes the task file through a temporary file renamed into place. False
-  // with the reason in *err when it cannot be written; the old file then stays.
+  // Reads the task file. A file whose header is bad leaves the list as it is;
+  // a bad record ends the reading and keeps the tasks read before it. Rebuilds
+  // the view after a read. A missing or empty file is no damage and reads nothing. False, with
+  // the file named in *err, when it exists and cannot be read whole: it is then
+  // damaged, and save() refuses to write over it, so that a repair can still
+  // recover what lies after the damage.
+  bool load(std::string* err = nullptr);
+  // Writes the task file through a temporary file renamed into place, under
+  // the file's lock. False with the reason in *err when it cannot be written,
+  // or when the file read was damaged; the old file then stays.
   bool save(std::string* err);
   // The file form on an open stream (load and save use them; so does the fuzz target).
   bool readFrom(ByteStream& file);
@@ -59,6 +63,9 @@ class TaskList : public Ensemble<Task> {
   int32_t countInState(int32_t state) const;
   std::vector<std::string> typeNames() const;
   void setTypes(const std::vector<std::string>& names);
+
+ private:
+  bool damagedFile_ = false;  // the file last loaded could not be read whole
 };
 
 // The type list as the options page edits it: names joined by ";", and split

@@ -99,6 +99,27 @@ TEST_F(TaskFileTest, BadRecordKeepsTheTasksReadBeforeIt) {
   EXPECT_EQ(reread.count(), 1);
 }
 
+TEST_F(TaskFileTest, ADamagedFileIsNamedAndNeverSavedOver) {
+  for (const char* name : {"one", "two", "three"}) list.append(makeTask(name, 0));
+  std::string err;
+  ASSERT_TRUE(list.save(&err));
+  const std::string damaged = dir.read("my project.kpj.tsk").substr(0, 60);
+  dir.write("my project.kpj.tsk", damaged);
+  TaskList reread;
+  reread.filePath = path;
+  EXPECT_FALSE(reread.load(&err));
+  EXPECT_EQ(err, path + ": damaged task file, read as far as " + std::to_string(reread.count()) +
+                     " task(s); it is left as it is and nothing is saved over it");
+  reread.append(makeTask("added after", 0));
+  EXPECT_FALSE(reread.save(&err)) << "what lies after the damage could still be recovered";
+  EXPECT_EQ(err, path + " was damaged when it was read: it is not saved over");
+  EXPECT_EQ(dir.read("my project.kpj.tsk"), damaged);
+
+  dir.write("my project.kpj.tsk", "");
+  EXPECT_TRUE(reread.load(&err)) << "an empty file is no damage";
+  EXPECT_TRUE(reread.save(&err)) << err;
+}
+
 TEST_F(TaskFileTest, FailedSaveLeavesTheOldFile) {
   dir.write("my project.kpj.tsk", "old");
   list.append(new Task());
