@@ -23,12 +23,12 @@ std::string projectInCurrentDirectory() {
   return found;
 }
 
-std::string absolute(const std::string& path) {
-  if (!path.empty() && path[0] == kPathSeparator) return path;
+}  // namespace
+
+std::string absolutePath(const std::string& path) {
+  if (path.empty() || isAbsolutePath(path)) return path;
   return joinPath(os().currentDirectory(), path);
 }
-
-}  // namespace
 
 std::string settingsFilePath() {
   if (const char* explicitPath = std::getenv("KESTO_SETTINGS"); explicitPath && *explicitPath) return explicitPath;
@@ -62,7 +62,7 @@ bool CliSession::openProject(ProjectUse use) {
   opened_ = true;
   std::string path = projectOption.empty() ? projectInCurrentDirectory() : projectOption;
   if (path.empty()) return true;
-  path = absolute(path);
+  path = absolutePath(path);
   auto project = std::make_unique<KpjProject>();
   std::string err;
   if (use == ProjectUse::Update && !(projectLock_ = os().lock(path, &err))) {

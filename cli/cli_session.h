@@ -56,5 +56,8 @@ class CliSession {
 // $XDG_CONFIG_HOME/kesto/settings.reg, else ~/.config/kesto/settings.reg.
 std::string settingsFilePath();
 
+// path taken from the current directory; an empty or absolute path as it is.
+std::string absolutePath(const std::string& path);
+
 // Reports an error of kesto itself on standard error: "kesto: TEXT".
 void reportError(const std::string& text);

@@ -22,11 +22,6 @@ struct CompleteArguments {
   int32_t column = 0;  // 0: just after the end of the line
 };
 
-std::string absolute(const std::string& path) {
-  if (path.empty() || path[0] == kPathSeparator) return path;
-  return joinPath(os().currentDirectory(), path);
-}
-
 // The IDE keeps the description last shown for its whole session; kesto lives
 // for one request, so the description waits in a file beside the settings.
 std::string completionStatePath() { return joinPath(directoryOf(settingsFilePath()), "completion.state"); }
@@ -44,7 +39,7 @@ void listFiles() {
 }
 
 void add(CliSession& session, const KeywordsArguments& args) {
-  std::string path = absolute(args.file);
+  std::string path = absolutePath(args.file);
   if (!os().exists(path)) {
     reportError(args.file + ": no such keyword file");
     session.exitStatus = kExitNothing;
@@ -59,7 +54,7 @@ void add(CliSession& session, const KeywordsArguments& args) {
 void remove(CliSession& session, const KeywordsArguments& args) {
   CompletionEngine engine;
   engine.readSettings();
-  std::string path = absolute(args.file);
+  std::string path = absolutePath(args.file);
   size_t index = 0;
   while (index < engine.files.size() && engine.files[index] != args.file && engine.files[index] != path) ++index;
   if (index == engine.files.size()) {
@@ -79,7 +74,7 @@ void extract(CliSession& session, const KeywordsArguments& args) {
   engine.readSettings();
   std::string keywordPath;
   std::string err;
-  if (!extractAndAddKeywordFile(engine, absolute(args.file), &keywordPath, &err)) {
+  if (!extractAndAddKeywordFile(engine, absolutePath(args.file), &keywordPath, &err)) {
     reportError(err);
     session.exitStatus = kExitNothing;
     return;

@@ -15,10 +15,6 @@ struct TagsArguments {
   std::string output = "tags";  // "-": standard output
 };
 
-std::string absolute(const std::string& path) {
-  return isAbsolutePath(path) ? path : joinPath(os().currentDirectory(), path);
-}
-
 // An editor takes a tag's file from the directory of the tags file.
 std::string relativeTo(const std::string& dir, const std::string& path) {
   std::string prefix = joinPath(dir, "");
@@ -27,7 +23,7 @@ std::string relativeTo(const std::string& dir, const std::string& path) {
 
 void writeTags(CliSession& session, const TagsArguments& args) {
   if (args.dir.empty() && !session.openProject()) return;
-  std::string root = absolute(args.dir.empty() ? session.projectDirectory() : args.dir);
+  std::string root = absolutePath(args.dir.empty() ? session.projectDirectory() : args.dir);
   FileAttributes rootInfo;
   if (!os().attributes(root, &rootInfo, nullptr) || !rootInfo.isDirectory) {
     reportError(root + " is not a directory");
@@ -36,7 +32,7 @@ void writeTags(CliSession& session, const TagsArguments& args) {
   }
   std::vector<TagEntry> tags = treeTags(session.host(), root, QuickFindSettings::read());
   bool toOutput = args.output == "-";
-  std::string base = toOutput ? os().currentDirectory() : directoryOf(absolute(args.output));
+  std::string base = toOutput ? os().currentDirectory() : directoryOf(absolutePath(args.output));
   for (TagEntry& tag : tags) tag.file = relativeTo(base, tag.file);
   if (tags.empty()) session.exitStatus = kExitNothing;
   std::string text = tagsFileText(std::move(tags));
