@@ -6,7 +6,7 @@
 
 #include "cli/progress_bar.h"
 #include "foundation/alert.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 class KpjProject;
 

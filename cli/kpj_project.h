@@ -6,8 +6,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "ide/project_options.h"
-#include "ide/project_tree.h"
+#include "project/project_options.h"
+#include "project/project_tree.h"
 
 class KpjProject : public ProjectOptionStore {
  public:

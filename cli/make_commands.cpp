@@ -14,7 +14,7 @@
 #include "cli/html_site.h"
 #include "foundation/settings.h"
 #include "html/ht_generation.h"
-#include "ide/make_sequence.h"
+#include "rcgen/make_sequence.h"
 
 extern char** environ;
 

@@ -5,7 +5,7 @@
 #include <ctime>
 #include <string>
 
-#include "ide/host.h"
+#include "project/host.h"
 
 // The setting "Mail"/"Sendmail" and its default.
 constexpr const char* kSendmailDefault = "/usr/sbin/sendmail -t -i";

@@ -8,7 +8,7 @@
 #include "cli/command_table.h"
 #include "delivery/mail.h"
 #include "tasks/flash.h"
-#include "tasks/project_files.h"
+#include "project/project_files.h"
 #include "tasks/task_list_presenter.h"
 #include "tasks/task_order.h"
 

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "completion/completion_engine.h"
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 class CompletionPage : public OptionPage {
  public:

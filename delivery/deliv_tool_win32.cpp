@@ -1,13 +1,7 @@
 // Registering the delivery tool and running it.
 #include "delivery/deliv_tool_win32.h"
 
-#include "delivery/delivery_dialog_win32.h"
-#include "delivery/delivery_run.h"
-#include "delivery/mail.h"
-#include "ide/addon_slots_win32.h"
-#include "ide/ide_access_win32.h"
-#include "ide/ide_host_win32.h"
-#include "tasks/task_list.h"
+#include "win32/ide_access_win32.h"
 
 namespace {
 
@@ -22,15 +16,10 @@ bool deleteNamedTool(IIdeTools* tools) {
 
 }  // namespace
 
-DelivTool::DelivTool() : IUnknownImp(ide_iid::kToolImplementor) {}
+DelivTool::DelivTool(std::function<void()> run) : IUnknownImp(ide_iid::kToolImplementor), run_(std::move(run)) {}
 
 long __stdcall DelivTool::Execute(IIdeString*) {
-  if (!addon().delivery || !addon().mail) return 0;
-  const bool includeTaskNotes = addon().tasks && addon().tasks->mainOn && addon().tasks->keyIsDelivery;
-  HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
-  addon().delivery->run(ideHost(), *addon().mail, includeTaskNotes, [instance](DeliveryConfirmation& confirmation) {
-    return showDeliveryConfirmation(instance, GetActiveWindow(), confirmation);
-  });
+  run_();
   return 0;
 }
 

@@ -1,12 +1,15 @@
 // The delivery tool in the IDE's Tool menu: registered while a project is open.
 #pragma once
 
-#include "ide/ide_api_win32.h"
+#include <functional>
+
+#include "win32/ide_api_win32.h"
 
 class DelivTool : public IUnknownImp<IToolImplementor> {
  public:
-  DelivTool();
-  // Runs a delivery of the open project with the confirmation dialog; always 0.
+  // run delivers the open project; the add-on gives it, with the confirmation dialog.
+  explicit DelivTool(std::function<void()> run);
+  // Runs the delivery; always 0.
   long __stdcall Execute(IIdeString* file) override;
 
   // Replaces any tool of the same name with this one; once per project.
@@ -15,5 +18,6 @@ class DelivTool : public IUnknownImp<IToolImplementor> {
   void unregisterTool();
 
  private:
+  std::function<void()> run_;
   bool registered_ = false;
 };

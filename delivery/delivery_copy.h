@@ -5,7 +5,7 @@
 
 #include "delivery/delivery_selection.h"
 #include "foundation/os.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 // The message window's group of deliveries.
 extern const MessageGroup kDeliveryGroup;

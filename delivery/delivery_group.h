@@ -6,8 +6,8 @@
 
 #include "foundation/kstring.h"
 #include "foundation/tableau.h"
-#include "ide/project_options.h"
-#include "ide/project_tree.h"
+#include "project/project_options.h"
+#include "project/project_tree.h"
 
 // One group; its text is the node type, by which the table is sorted.
 class OneDelRep : public Basic {

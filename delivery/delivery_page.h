@@ -6,7 +6,7 @@
 #include <string>
 
 #include "delivery/delivery_group.h"
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 class DeliveryPage : public ProjectOptionPage {
  public:

@@ -4,7 +4,7 @@
 #include "delivery/delivery_copy.h"
 #include "foundation/alert.h"
 #include "foundation/os.h"
-#include "tasks/project_files.h"
+#include "project/project_files.h"
 
 DeliveryOutcome Delivery::run(Host& host, Mail& mail, bool includeTaskNotes, const ConfirmDelivery& confirm) {
   const std::string projectFile = host.projectFile();

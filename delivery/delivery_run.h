@@ -4,7 +4,7 @@
 #include "delivery/delivery_confirmation.h"
 #include "delivery/delivery_group.h"
 #include "delivery/mail.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 enum class DeliveryOutcome {
   NothingToDeliver,  // "No files to deliver !"

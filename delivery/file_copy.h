@@ -6,7 +6,7 @@
 #include <string>
 
 #include "foundation/os.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 // One progress display for an action that copies several files.
 class CopyProgress {

@@ -8,7 +8,7 @@
 
 #include "foundation/kstring.h"
 #include "foundation/tableau.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 class Mail {
  public:

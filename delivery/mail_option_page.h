@@ -3,7 +3,7 @@
 #pragma once
 
 #include "delivery/mail_page.h"
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 class MailOptionPage : public OptionPage {
  public:

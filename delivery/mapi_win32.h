@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "ide/host.h"
+#include "project/host.h"
 
 // Loads "MAPI32.DLL", hands message to its MAPISendMail with owner as the
 // parent of any dialog the mail system shows, and unloads it. err gets the

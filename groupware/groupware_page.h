@@ -3,7 +3,7 @@
 #pragma once
 
 #include "groupware/groupware_settings.h"
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 class GroupwarePage : public OptionPage {
  public:

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "foundation/kstring.h"
-#include "ide/project_options.h"
+#include "project/project_options.h"
 
 struct GroupwareSettings {
   static constexpr const char* kDefaultFilters = "*.cpp;*.cc;*.c;*.h;*.rh;*.rc;*.bmp;*.ico;*.gif";

@@ -7,7 +7,7 @@
 
 #include "groupware/gw_get_presenter.h"
 #include "groupware/gw_send_presenter.h"
-#include "ide/dialog_controls_win32.h"
+#include "win32/dialog_controls_win32.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "delivery/mail.h"
 #include "groupware/groupware_settings.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 // Each shows the box that asks for a server directory when the project has
 // none; otherwise runs its dialog until the user closes it.

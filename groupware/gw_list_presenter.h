@@ -13,7 +13,7 @@
 #include "groupware/groupware_settings.h"
 #include "groupware/gw_lists.h"
 #include "groupware/gw_transfer.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 // The open project's roots: its directory and its server directory (a relative
 // one is taken from the project directory). False after the box that asks for a

@@ -10,7 +10,7 @@
 
 #include "delivery/file_copy.h"
 #include "groupware/gw_lists.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 class GwTransfer {
  public:

@@ -2,7 +2,7 @@
 #include "groupware/quick_add_dialog_win32.h"
 
 #include "groupware/quick_add_presenter.h"
-#include "ide/dialog_controls_win32.h"
+#include "win32/dialog_controls_win32.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "ide/host.h"
+#include "project/host.h"
 
 // Runs the dialog owned by owner for the node current of the host's tree top
 // (as projectRoot() gave it). Returns the new node, or null when the dialog

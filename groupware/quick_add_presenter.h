@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <string>
 
-#include "ide/host.h"
+#include "project/host.h"
 
 // Where the new container goes, by the ids of the dialog's radio buttons.
 enum class ContainerLevel { Sibling = 112, Parent = 113, Root = 114 };

@@ -2,8 +2,8 @@
 // filters for the documentation site.
 #pragma once
 
-#include "ide/option_page.h"
-#include "ide/project_options.h"
+#include "project/option_page.h"
+#include "project/project_options.h"
 
 // Without a project the page shows the project defaults.
 class HtmlPage : public ProjectOptionPage {

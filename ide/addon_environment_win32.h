@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 
 struct AddonEnvironment {
   HINSTANCE instance = nullptr;

@@ -4,7 +4,7 @@
 #include "completion/completion_engine.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/general_behaviours_win32.h"
-#include "navigation/navigation_commands_win32.h"
+#include "ide/navigation_commands_win32.h"
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
 #include "navigation/title_bar_win32.h"

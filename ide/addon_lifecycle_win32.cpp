@@ -7,12 +7,14 @@
 
 #include "completion/completion_engine.h"
 #include "delivery/deliv_tool_win32.h"
+#include "delivery/delivery_dialog_win32.h"
 #include "delivery/delivery_run.h"
 #include "delivery/mail.h"
 #include "foundation/alert.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "groupware/groupware_settings.h"
+#include "groupware/quick_add_dialog_win32.h"
 #include "html/ht_thread_win32.h"
 #include "ide/addon_hook_client_win32.h"
 #include "ide/addon_slots_win32.h"
@@ -20,7 +22,9 @@
 #include "ide/general_behaviours_win32.h"
 #include "ide/help_file_win32.h"
 #include "ide/hook_set_win32.h"
-#include "ide/make_sequence.h"
+#include "ide/ide_host_win32.h"
+#include "ide/open_file_win32.h"
+#include "rcgen/make_sequence.h"
 #include "ide/option_chapter_win32.h"
 #include "ide/project_client_win32.h"
 #include "navigation/quickfind.h"
@@ -30,6 +34,7 @@
 #include "tasks/task_list_dialog_win32.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_win32.h"
+#include "win32/ide_windows_win32.h"
 
 namespace {
 
@@ -138,6 +143,39 @@ void releaseChapter(IIdeRoot*) {
   addon().chapter = nullptr;
 }
 
+// The delivery tool's run: the open project with the confirmation dialog, and
+// the task notes when the tasks' key is the delivery.
+void runDelivery() {
+  if (!addon().delivery || !addon().mail) return;
+  const bool includeTaskNotes = addon().tasks && addon().tasks->mainOn && addon().tasks->keyIsDelivery;
+  HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
+  addon().delivery->run(ideHost(), *addon().mail, includeTaskNotes, [instance](DeliveryConfirmation& confirmation) {
+    return showDeliveryConfirmation(instance, GetActiveWindow(), confirmation);
+  });
+}
+
+// The bar reaches the IDE and the other features only through these links.
+TopBarLinks topBarLinks() {
+  TopBarLinks links;
+  links.host = &ideHost();
+  links.tools = [] { return static_cast<const Tableau<Tool>*>(addon().tools); };
+  links.recentFiles = [] { return static_cast<const RecentFiles*>(addon().recentFiles); };
+  links.projectOptions = [] { return static_cast<const ProjectOptions*>(openProjectOptions()); };
+  links.openAndRecord = [](const std::string& path) { return openAndRecord(path); };
+  links.activateFrame = activateIdeFrame;
+  links.removeProjectNode = removeIdeProjectNode;
+  links.quickAdd = [](const ProjectNode& root, const ProjectNode& node) {
+    HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
+    return runQuickAddDialog(instance, ideFrame(), ideHost(), root, node);
+  };
+  return links;
+}
+
+void createTopBar(IIdeRoot*) {
+  if (addon().bar)
+    addon().topBar = new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0, topBarLinks());
+}
+
 const Step kInitialisation[] = {
     {"store the IDE pointer", [](IIdeRoot* ide) { storeIdePointer(ide); }},
     {"probe the environment", [](IIdeRoot*) { probeEnvironment(addon().environment); }},
@@ -148,10 +186,7 @@ const Step kInitialisation[] = {
     {"create the help file, given the bar", createHelpFile},
     {"create the editor navigation, given the bar and the new-shell flag",
      [](IIdeRoot*) { create<SourceScanner>(addon().navigation, nullptr); }},
-    {"create the top bar settings, given the new-shell flag and the bar",
-     [](IIdeRoot*) {
-       if (addon().bar) addon().topBar = new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0);
-     }},
+    {"create the top bar settings, given the new-shell flag and the bar", createTopBar},
     {"create the completion engine", createCompletion},
     {"create the general behaviours",
      [](IIdeRoot*) {
@@ -173,7 +208,7 @@ const Step kInitialisation[] = {
        create<ProjectTestA>(addon().projectClients, nullptr);
        if (addon().projectClients) addon().projectClients->registerClients();
      }},
-    {"create the delivery tool", [](IIdeRoot*) { addon().delivTool = new (std::nothrow) DelivTool(); }},
+    {"create the delivery tool", [](IIdeRoot*) { addon().delivTool = new (std::nothrow) DelivTool(runDelivery); }},
     {"load the recent-file lists", [](IIdeRoot*) { create(addon().recentFiles, &RecentFiles::load); }},
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},

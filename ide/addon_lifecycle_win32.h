@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 // The DLL's attach: the environment, the settings root and backend, the alert
 // handler and OLE. False refuses the load (OLE could not start).

@@ -8,7 +8,7 @@
 
 #include "ide/addon_slots_win32.h"
 #include "ide/help_file_win32.h"
-#include "ide/ide_access_win32.h"
+#include "win32/ide_access_win32.h"
 #include "ide/key_capture_win32.h"
 
 namespace {

@@ -7,9 +7,9 @@
 #include <functional>
 #include <memory>
 
-#include "ide/ide_api_win32.h"
-#include "ide/option_chapter.h"
-#include "ide/option_page.h"
+#include "win32/ide_api_win32.h"
+#include "project/option_chapter.h"
+#include "project/option_page.h"
 
 // What makes one page of the add-on: its presenter, made afresh from the
 // add-on's objects each time the page is shown (null when a feature object is

@@ -5,8 +5,8 @@
 #include <windows.h>
 
 #include "ide/addon_environment_win32.h"
-#include "ide/ide_access_win32.h"
-#include "ide/tool_table.h"
+#include "win32/ide_access_win32.h"
+#include "project/tool_table.h"
 
 class CompletionEngine;
 class DelivTool;

@@ -12,7 +12,7 @@
 #include "ide/open_file_win32.h"
 #include "topbar/top_bar_win32.h"
 
-#include "navigation/navigation_commands_win32.h"
+#include "ide/navigation_commands_win32.h"
 #include "navigation/navigation_menus.h"
 #include "topbar/bar_commands.h"
 

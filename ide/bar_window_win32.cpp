@@ -1,7 +1,7 @@
 // The bar window's class and creation.
 #include "ide/bar_window_win32.h"
 
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 #include "ide/bar_commands_win32.h"
 
 namespace {

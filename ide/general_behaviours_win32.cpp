@@ -4,9 +4,9 @@
 #include <string>
 
 #include "ide/addon_slots_win32.h"
-#include "ide/ide_access_win32.h"
+#include "win32/ide_access_win32.h"
 #include "ide/ide_host_win32.h"
-#include "ide/ide_windows_win32.h"
+#include "win32/ide_windows_win32.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include "ide/general_options.h"
+#include "project/general_options.h"
 
 // The bar's one-second timer, which drives the auto-save.
 constexpr UINT_PTR kBarTimer = 1;

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "foundation/alert.h"
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 
 HelpFile::HelpFile(HINSTANCE instance, HWND owner) : instance_(instance), owner_(owner) {
   GetModuleFileNameA(instance_, path_, kPathBytes);

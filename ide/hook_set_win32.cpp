@@ -2,9 +2,9 @@
 // passes everything it does not take to the next hook.
 #include "ide/hook_set_win32.h"
 
-#include "ide/editor_title.h"
-#include "ide/ide_windows_win32.h"
-#include "ide/key_code.h"
+#include "project/editor_title.h"
+#include "win32/ide_windows_win32.h"
+#include "project/key_code.h"
 
 HookSet* HookSet::active_ = nullptr;
 bool HookSet::painting_ = false;

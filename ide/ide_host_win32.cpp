@@ -9,7 +9,7 @@
 #include "delivery/mapi_win32.h"
 #include "ide/addon_slots_win32.h"
 #include "ide/ide_services_win32.h"
-#include "ide/status_progress_win32.h"
+#include "win32/status_progress_win32.h"
 
 namespace {
 

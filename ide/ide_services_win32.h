@@ -4,7 +4,7 @@
 #include <string>
 
 #include "foundation/kstring.h"
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 // Shows text on the IDE's status line; nothing when the service is absent.
 void showStatusText(const char* text);

@@ -3,7 +3,7 @@
 #include "ide/key_capture_win32.h"
 
 #include "ide/hook_set_win32.h"
-#include "ide/key_code.h"
+#include "project/key_code.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "foundation/alert.h"
-#include "ide/ide_access_win32.h"
+#include "win32/ide_access_win32.h"
 
 namespace {
 IIdeMake* gMakeService = nullptr;

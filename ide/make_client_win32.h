@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 class MakeClient : public IUnknownImp<IMakeClient> {
  public:

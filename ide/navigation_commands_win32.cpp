@@ -1,12 +1,12 @@
 // The navigation commands on the add-on's objects and the IDE.
-#include "navigation/navigation_commands_win32.h"
+#include "ide/navigation_commands_win32.h"
 
 #include <string>
 
 #include "ide/addon_slots_win32.h"
 #include "ide/hook_set_win32.h"
 #include "ide/ide_host_win32.h"
-#include "ide/menu_model_win32.h"
+#include "win32/menu_model_win32.h"
 #include "ide/open_file_win32.h"
 #include "navigation/include_search.h"
 #include "navigation/navigation_menus.h"

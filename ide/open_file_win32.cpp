@@ -4,10 +4,10 @@
 #include <windows.h>
 
 #include "ide/addon_slots_win32.h"
-#include "ide/editor_title.h"
+#include "project/editor_title.h"
 #include "ide/ide_host_win32.h"
-#include "ide/ide_windows_win32.h"
-#include "ide/tool_table.h"
+#include "win32/ide_windows_win32.h"
+#include "project/tool_table.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_win32.h"
 

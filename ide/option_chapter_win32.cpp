@@ -3,7 +3,7 @@
 
 #include <new>
 
-#include "ide/ide_access_win32.h"
+#include "win32/ide_access_win32.h"
 
 IMpdChapterAddon::IMpdChapterAddon(HINSTANCE instance) : IUnknownImp(ide_iid::kMpdChapter) {
   for (PageBehaviour& behaviour : addonPageBehaviours()) append(instance, std::move(behaviour));

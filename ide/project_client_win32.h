@@ -2,8 +2,8 @@
 // is saved, and where it keeps the options that belong to the open project.
 #pragma once
 
-#include "ide/ide_api_win32.h"
-#include "ide/project_options.h"
+#include "win32/ide_api_win32.h"
+#include "project/project_options.h"
 
 class ProjectClientImpl : public IUnknownImp<IProjectClient> {
  public:

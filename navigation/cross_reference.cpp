@@ -2,7 +2,7 @@
 #include "navigation/cross_reference.h"
 
 #include "foundation/os.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "navigation/line_match.h"
 #include "navigation/quickfind.h"
 #include "navigation/search_places.h"

@@ -2,7 +2,7 @@
 // bound to the dialog's controls, and the settings written when it is stored.
 #pragma once
 
-#include "ide/option_page.h"
+#include "project/option_page.h"
 #include "navigation/editor_page.h"
 
 class EditorOptionPage : public OptionPage {

@@ -3,7 +3,7 @@
 #include "navigation/include_search.h"
 
 #include "foundation/os.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "navigation/search_places.h"
 
 namespace {

@@ -3,7 +3,7 @@
 
 #include <cctype>
 
-#include "ide/host.h"
+#include "project/host.h"
 #include "foundation/directory_walk.h"
 #include "navigation/line_match.h"
 #include "navigation/name_lines.h"

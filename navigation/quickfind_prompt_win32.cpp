@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "ide/ide_windows_win32.h"
+#include "win32/ide_windows_win32.h"
 #include "navigation/search_history.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include "navigation/search_places.h"
 
 #include "foundation/os.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 std::vector<std::string> splitSearchList(const std::string& list) {
   std::vector<std::string> entries;

@@ -2,7 +2,7 @@
 #include "navigation/source_scanner.h"
 
 #include "foundation/settings.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "navigation/include_scan.h"
 #include "navigation/navigation_menus.h"
 #include "navigation/source_text.h"

@@ -3,7 +3,7 @@
 
 #include "foundation/os.h"
 #include "foundation/text_encoding.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 bool readSourceText(Host& host, const std::string& path, std::string* text, std::string* err) {
   if (host.editorText(path, text)) return true;

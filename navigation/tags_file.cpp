@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "foundation/directory_walk.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "navigation/function_scan.h"
 #include "navigation/line_match.h"
 #include "navigation/quickfind_settings.h"

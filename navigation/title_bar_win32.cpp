@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "ide/gdi_win32.h"
+#include "win32/gdi_win32.h"
 #include "navigation/title_bar_geometry.h"
 
 namespace {

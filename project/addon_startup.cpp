@@ -1,5 +1,5 @@
 // Pure rules of the add-on's start.
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 
 #include <cstdio>
 

@@ -1,5 +1,5 @@
 // Cutting editor titles down to the names the features use.
-#include "ide/editor_title.h"
+#include "project/editor_title.h"
 
 std::string editorFileName(const std::string& title, size_t limit) {
   std::string name = title.substr(0, limit);

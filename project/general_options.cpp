@@ -1,5 +1,5 @@
 // The "General" section, the auto-save countdown and the period check.
-#include "ide/general_options.h"
+#include "project/general_options.h"
 
 #include "foundation/alert.h"
 #include "foundation/settings.h"

@@ -1,5 +1,5 @@
 // The General page's controls and storing.
-#include "ide/general_page.h"
+#include "project/general_page.h"
 
 std::vector<PageControl> GeneralPage::controls() {
   return {

@@ -2,8 +2,8 @@
 // period's check, and their writing when the page is stored.
 #pragma once
 
-#include "ide/general_options.h"
-#include "ide/option_page.h"
+#include "project/general_options.h"
+#include "project/option_page.h"
 
 class GeneralPage : public OptionPage {
  public:

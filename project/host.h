@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "ide/project_options.h"
-#include "ide/project_tree.h"
+#include "project/project_options.h"
+#include "project/project_tree.h"
 
 // A message group of the message window, created on first use and kept.
 struct MessageGroup {

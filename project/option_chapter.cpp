@@ -1,5 +1,5 @@
 // The chapter's page table and its first page.
-#include "ide/option_chapter.h"
+#include "project/option_chapter.h"
 
 const OptionPageEntry kOptionPages[kOptionPageCount] = {
     {"Kesto AddOn for Borland C++", "Set general Kesto AddOn options", 0},

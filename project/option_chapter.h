@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 struct OptionPageEntry {
   const char* title;        // shown in the IDE's list of pages

@@ -1,5 +1,5 @@
 // The binding shorthands and the hint lookup of the option pages.
-#include "ide/option_page.h"
+#include "project/option_page.h"
 
 PageControl checkControl(int32_t id, const std::string& hint, int32_t* value) {
   PageControl control{id, PageControlKind::Check, hint};

@@ -1,5 +1,5 @@
 // Reading and writing the per-project options in the orders that opening and saving use.
-#include "ide/project_options.h"
+#include "project/project_options.h"
 
 #include <cstdio>
 #include <cstring>

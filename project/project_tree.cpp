@@ -1,5 +1,5 @@
 // Lookups in the project tree.
-#include "ide/project_tree.h"
+#include "project/project_tree.h"
 
 #include <cctype>
 

@@ -1,5 +1,5 @@
 // The IDE tools table and the choice of a tool for a file.
-#include "ide/tool_table.h"
+#include "project/tool_table.h"
 
 void fillToolTable(Tableau<Tool>* table) {
   static const char* const kTools[][3] = {

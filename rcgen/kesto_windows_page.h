@@ -1,8 +1,8 @@
 // The Kesto Windows page as a presenter: the open project's two generator switches.
 #pragma once
 
-#include "ide/option_page.h"
-#include "ide/project_options.h"
+#include "project/option_page.h"
+#include "project/project_options.h"
 
 class KestoWindowsPage : public ProjectOptionPage {
  public:

@@ -1,5 +1,5 @@
 // The portable actions around a Make.
-#include "ide/make_sequence.h"
+#include "rcgen/make_sequence.h"
 
 
 void MakeSequence::setOptions(const ProjectOptions& options) {

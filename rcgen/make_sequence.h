@@ -5,8 +5,8 @@
 #include <functional>
 #include <string>
 
-#include "ide/host.h"
-#include "ide/project_options.h"
+#include "project/host.h"
+#include "project/project_options.h"
 #include "rcgen/rc_generator.h"
 
 // Starts a documentation generation of the project directory with the filters;

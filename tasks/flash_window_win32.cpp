@@ -1,7 +1,7 @@
 // The Flash window's view: its title, its one edit control fitted to the client area.
 #include "tasks/flash_window_win32.h"
 
-#include "ide/dialog_controls_win32.h"
+#include "win32/dialog_controls_win32.h"
 #include "tasks/flash.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <new>
 
-#include "ide/dialog_controls_win32.h"
+#include "win32/dialog_controls_win32.h"
 #include "tasks/task_list_presenter.h"
 #include "tasks/task_order.h"
 

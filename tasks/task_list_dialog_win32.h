@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "delivery/mail.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "tasks/task_list.h"
 
 // Creates the dialog under parent, or brings the open one to the top. The

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "delivery/mail.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "tasks/task_list.h"
 
 // The edit area's controls as text, as the dialog holds them.

@@ -3,7 +3,7 @@
 
 #include "foundation/alert.h"
 #include "foundation/os.h"
-#include "tasks/project_files.h"
+#include "project/project_files.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "delivery/mail.h"
-#include "ide/host.h"
+#include "project/host.h"
 #include "tasks/task.h"
 #include "tasks/task_list.h"
 

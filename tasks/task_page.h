@@ -2,7 +2,7 @@
 // task types, joined with ";" in one field and split again when stored.
 #pragma once
 
-#include "ide/option_page.h"
+#include "project/option_page.h"
 #include "tasks/task_list.h"
 
 class TaskPage : public OptionPage {

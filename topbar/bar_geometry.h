@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 
 struct ScreenMetrics {
   bool newShell = true;  // the Windows 95 look: a thin border instead of a caption

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "foundation/menu_model.h"
-#include "ide/project_tree.h"
+#include "project/project_tree.h"
 #include "topbar/recent_files.h"
 
 constexpr uint32_t kFirstRecentProjectId = 200;

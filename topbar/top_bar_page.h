@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "ide/option_page.h"
-#include "ide/project_options.h"
+#include "project/option_page.h"
+#include "project/project_options.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_settings.h"
 

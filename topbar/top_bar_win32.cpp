@@ -3,32 +3,12 @@
 
 #include "foundation/alert.h"
 #include "foundation/settings.h"
-#include "groupware/quick_add_dialog_win32.h"
-#include "ide/addon_slots_win32.h"
-#include "ide/ide_host_win32.h"
-#include "ide/ide_windows_win32.h"
-#include "ide/menu_model_win32.h"
-#include "ide/open_file_win32.h"
-#include "ide/project_client_win32.h"
-#include "ide/tool_table.h"
+#include "win32/ide_windows_win32.h"
+#include "win32/menu_model_win32.h"
 
 namespace {
 
 constexpr UINT kIdeOptionsCommand = 13492;
-
-// Runs the IDE tool chosen for a node (by its type, else its file's extension) on its file.
-void runNodeTool(const ProjectNode& node) {
-  if (!addon().tools) return;
-  std::string windowClass;
-  std::string tool = findTool(*addon().tools, node.type, &windowClass);
-  if (tool == "EditText") {
-    const size_t dot = node.name.rfind('.');
-    if (dot != std::string::npos) tool = findTool(*addon().tools, node.name.substr(dot), &windowClass);
-  }
-  const std::string file = projectPath(projectDirectoryOf(ideHost().projectFile()), node.name);
-  const int result = ideHost().runTool(tool, file);
-  if (result != 0) ideHost().showStatus(toolResultText(result));
-}
 
 bool projectViewOpen() {
   HWND view = findChildWindow(ideDocuments(), "BCW5Project", nullptr);
@@ -37,11 +17,28 @@ bool projectViewOpen() {
 
 }  // namespace
 
-TopBar::TopBar(HWND bar, bool newShell) : settings(TopBarSettings::read(newShell)), bar_(bar) {}
+TopBar::TopBar(HWND bar, bool newShell, TopBarLinks links)
+    : settings(TopBarSettings::read(newShell)), bar_(bar), links_(std::move(links)) {}
 
 const RecentFiles& TopBar::recent() const {
   static const RecentFiles none;
-  return addon().recentFiles ? *addon().recentFiles : none;
+  const RecentFiles* files = links_.recentFiles();
+  return files ? *files : none;
+}
+
+void TopBar::runNodeTool(const ProjectNode& node) {
+  const Tableau<Tool>* tools = links_.tools();
+  if (!tools) return;
+  std::string windowClass;
+  std::string tool = findTool(*tools, node.type, &windowClass);
+  if (tool == "EditText") {
+    const size_t dot = node.name.rfind('.');
+    if (dot != std::string::npos) tool = findTool(*tools, node.name.substr(dot), &windowClass);
+  }
+  Host& host = *links_.host;
+  const std::string file = projectPath(projectDirectoryOf(host.projectFile()), node.name);
+  const int result = host.runTool(tool, file);
+  if (result != 0) host.showStatus(toolResultText(result));
 }
 
 ScreenMetrics TopBar::screen() const {
@@ -86,8 +83,8 @@ void TopBar::collapse() {
 void TopBar::rebuildMenu() {
   BarMenuInputs inputs;
   inputs.recent = &recent();
-  const ProjectOptions* options = openProjectOptions();
-  const ProjectNode* root = options ? ideHost().projectRoot() : nullptr;
+  const ProjectOptions* options = links_.projectOptions();
+  const ProjectNode* root = options ? links_.host->projectRoot() : nullptr;
   project_ = root ? *root : ProjectNode();
   inputs.project = root ? &project_ : nullptr;
   inputs.construction = options ? options->hierarchical : settings.construction;
@@ -110,14 +107,14 @@ void TopBar::rebuildMenu() {
 
 void TopBar::refreshHeaderMenu() {
   HMENU menuBar = GetMenu(bar_);
-  if (!menuBar) return ideHost().showStatus("Pas de bar");
+  if (!menuBar) return links_.host->showStatus("Pas de bar");
   HMENU first = GetSubMenu(menuBar, 0);
-  if (!first) return ideHost().showStatus("Pas de mnu");
+  if (!first) return links_.host->showStatus("Pas de mnu");
   const int count = GetMenuItemCount(first);
-  if (count <= 0) return ideHost().showStatus("mnu.taille=0");
+  if (count <= 0) return links_.host->showStatus("mnu.taille=0");
   HMENU headers = nullptr;
   for (int item = 0; item < count && !headers; ++item) headers = GetSubMenu(first, item);
-  if (!headers) return ideHost().showStatus("Pas de hh");
+  if (!headers) return links_.host->showStatus("Pas de hh");
   replaceMenuItems(headers, refreshedHeaderMenu(recent().headers));
   DrawMenuBar(bar_);
 }
@@ -128,7 +125,7 @@ std::string TopBar::projectFileName(uint32_t n) const {
 }
 
 void TopBar::runProjectFile(uint32_t index) {
-  if (index >= menu_.projectFiles.size()) return ideHost().showStatus("Internal error: not enough files");
+  if (index >= menu_.projectFiles.size()) return links_.host->showStatus("Internal error: not enough files");
   const bool alt = GetKeyState(VK_MENU) & 0x8000;
   const bool control = GetKeyState(VK_CONTROL) & 0x8000;
   const bool remove = control && !alt;
@@ -136,16 +133,15 @@ void TopBar::runProjectFile(uint32_t index) {
   if (remove && alert("Okay to remove\n" + projectFileName(index) + " ?", "Confirmation", kAlertYesNo) != kAnswerYes)
     return;
   // The menu holds a copy of the tree: the IDE's own node is found at the same place.
-  const ProjectNode* root = ideHost().projectRoot();
+  const ProjectNode* root = links_.host->projectRoot();
   const ProjectNode* node = root ? sameNodeIn(project_, *menu_.projectFiles[index], *root) : nullptr;
-  if (!node) return ideHost().showStatus("Internal error: bad file");
+  if (!node) return links_.host->showStatus("Internal error: bad file");
   if (alt && !control) {
-    HINSTANCE instance = addon().environment ? addon().environment->instance : nullptr;
-    if (runQuickAddDialog(instance, ideFrame(), ideHost(), *root, *node)) rebuildMenu();
+    if (links_.quickAdd(*root, *node)) rebuildMenu();
     return;
   }
   if (!remove) return runNodeTool(*node);
-  if (removeIdeProjectNode(*node)) rebuildMenu();
+  if (links_.removeProjectNode(*node)) rebuildMenu();
 }
 
 void TopBar::applyStoredPage(const TopBarPageChanges& changes) {
@@ -168,7 +164,7 @@ void TopBar::showItemStatus(UINT id) {
     return n < menu_.tools.size() ? menuFileName(menu_.tools[n]->name) : std::string("nothing !");
   };
   names.projectFile = [this](uint32_t n) { return projectFileName(n); };
-  ideHost().showStatus(barStatusText(id, names));
+  links_.host->showStatus(barStatusText(id, names));
 }
 
 bool TopBar::runCommand(BarCommand command, uint32_t index) {
@@ -177,31 +173,31 @@ bool TopBar::runCommand(BarCommand command, uint32_t index) {
       rebuildMenu();
       return true;
     case BarCommand::RecentProject: {
-      activateIdeFrame();
+      links_.activateFrame();
       if (index >= recent().projects.size()) {
-        ideHost().showStatus("Internal error: not enough files");
+        links_.host->showStatus("Internal error: not enough files");
         return true;
       }
-      const int result = ideHost().runTool("Project", recent().projects[index]);
-      if (result != 0) ideHost().showStatus(toolResultText(result));
+      const int result = links_.host->runTool("Project", recent().projects[index]);
+      if (result != 0) links_.host->showStatus(toolResultText(result));
       return true;
     }
     case BarCommand::RunTool:
       if (index >= menu_.tools.size()) {
-        ideHost().showStatus("Internal error: not enough files");
+        links_.host->showStatus("Internal error: not enough files");
         return true;
       }
-      ideHost().showStatus("Running");
+      links_.host->showStatus("Running");
       runNodeTool(*menu_.tools[index]);
       return true;
     case BarCommand::RecentHeader:
-      activateIdeFrame();
+      links_.activateFrame();
       // A copy: recording the header moves the entries.
-      if (index < recent().headers.size()) openAndRecord(std::string(recent().headers[index]));
+      if (index < recent().headers.size()) links_.openAndRecord(std::string(recent().headers[index]));
       return true;
     case BarCommand::ProjectFile:
       runProjectFile(index);
-      activateIdeFrame();
+      links_.activateFrame();
       return true;
     case BarCommand::Options:
       if (HWND frame = ideFrame())

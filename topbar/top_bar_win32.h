@@ -5,7 +5,12 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
+
+#include "foundation/tableau.h"
+#include "project/host.h"
+#include "project/tool_table.h"
 
 #include "topbar/bar_commands.h"
 #include "topbar/bar_geometry.h"
@@ -14,11 +19,25 @@
 #include "topbar/top_bar_page.h"
 #include "topbar/top_bar_settings.h"
 
+// What the bar reaches beyond itself, given by the add-on. The tables are
+// asked for when used: they load after the bar.
+struct TopBarLinks {
+  Host* host = nullptr;
+  std::function<const Tableau<Tool>*()> tools;        // null while there is none
+  std::function<const RecentFiles*()> recentFiles;    // null while there are none
+  std::function<const ProjectOptions*()> projectOptions;  // null without a project
+  std::function<bool(const std::string& path)> openAndRecord;
+  std::function<void()> activateFrame;
+  // Takes a node of host->projectRoot()'s tree out of the project.
+  std::function<bool(const ProjectNode& node)> removeProjectNode;
+  // Offers Quick add beside node of root; true when a node was added.
+  std::function<bool(const ProjectNode& root, const ProjectNode& node)> quickAdd;
+};
+
 class TopBar {
  public:
-  // Reads the "TopBar" settings; the bar window is the add-on's. The recent
-  // lists are read from the add-on's slot when used: they load after the bar.
-  TopBar(HWND bar, bool newShell);
+  // Reads the "TopBar" settings; the bar window is the add-on's.
+  TopBar(HWND bar, bool newShell, TopBarLinks links);
   // Writes the "TopBar" settings.
   ~TopBar() { settings.write(); }
   TopBar(const TopBar&) = delete;
@@ -60,7 +79,11 @@ class TopBar {
   // alone removes it from the project.
   void runProjectFile(uint32_t index);
 
+  // The tool of a node (by its type, else its file's extension) run on its file.
+  void runNodeTool(const ProjectNode& node);
+
   HWND bar_;
+  TopBarLinks links_;
   BarMenu menu_;
   ProjectNode project_;  // the tree the menu's nodes point into
   bool expanded_ = false;

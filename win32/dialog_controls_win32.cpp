@@ -1,5 +1,5 @@
 // The control helpers of the dialog views.
-#include "ide/dialog_controls_win32.h"
+#include "win32/dialog_controls_win32.h"
 
 std::string dialogItemText(HWND dialog, int id, size_t maxLength) {
   std::string text(maxLength + 1, '\0');

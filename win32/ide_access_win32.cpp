@@ -1,5 +1,5 @@
 // The IDE's root pointer and the conversions of its strings.
-#include "ide/ide_access_win32.h"
+#include "win32/ide_access_win32.h"
 
 #include <cstring>
 #include <memory>

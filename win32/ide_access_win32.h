@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 // Keeps the IDE's pointer for the session (the reference the IDE gave is ours).
 void storeIdePointer(IIdeRoot* ide);

@@ -1,10 +1,10 @@
 // The lookups of the IDE's windows.
-#include "ide/ide_windows_win32.h"
+#include "win32/ide_windows_win32.h"
 
 #include <cstring>
 #include <string>
 
-#include "ide/editor_title.h"
+#include "project/editor_title.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Building and tracking Win32 menus from menu models.
-#include "ide/menu_model_win32.h"
+#include "win32/menu_model_win32.h"
 
 namespace {
 

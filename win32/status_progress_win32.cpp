@@ -1,9 +1,9 @@
 // Drawing the copy progress bar into the IDE's status window.
-#include "ide/status_progress_win32.h"
+#include "win32/status_progress_win32.h"
 
 #include <windows.h>
 
-#include "ide/gdi_win32.h"
+#include "win32/gdi_win32.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include "addon_loader.h"
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
-#include "ide/status_progress_win32.h"
+#include "win32/status_progress_win32.h"
 #include "ui_driver.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "ide/hook_set_win32.h"
-#include "ide/ide_windows_win32.h"
+#include "win32/ide_windows_win32.h"
 #include "navigation/title_bar_win32.h"
 #include "test_ide.h"
 #include "ui_driver.h"

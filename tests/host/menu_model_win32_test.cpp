@@ -2,7 +2,7 @@
 // separators, columns, states and submenus.
 #include <gtest/gtest.h>
 
-#include "ide/menu_model_win32.h"
+#include "win32/menu_model_win32.h"
 #include "ui_driver.h"
 
 TEST(MenuModelWin32Test, EveryKindOfItemArrives) {

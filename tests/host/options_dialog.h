@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 class TestOptionsDialog {
  public:

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "ide/ide_api_win32.h"
+#include "win32/ide_api_win32.h"
 
 // One interface of the test IDE: counted, never deleted (the IDE owns it), so
 // that a test can see every reference the add-on took come back.

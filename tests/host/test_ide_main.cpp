@@ -11,7 +11,7 @@
 
 #include "addon_loader.h"
 #include "ide/addon_environment_win32.h"
-#include "ide/gdi_win32.h"
+#include "win32/gdi_win32.h"
 #include "navigation/title_bar_geometry.h"
 #include "navigation/title_bar_win32.h"
 #include "test_ide.h"

@@ -3,7 +3,7 @@
 
 #include <cstring>
 
-#include "ide/addon_startup.h"
+#include "project/addon_startup.h"
 
 TEST(AddonStartupTest, DescribesEachPlatformAndDecidesTheNewShell) {
   char description[kOsDescriptionBytes];

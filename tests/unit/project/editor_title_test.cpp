@@ -1,8 +1,8 @@
 // The names the add-on reads from window titles, and the shortcut key code.
 #include <gtest/gtest.h>
 
-#include "ide/editor_title.h"
-#include "ide/key_code.h"
+#include "project/editor_title.h"
+#include "project/key_code.h"
 
 TEST(EditorTitleTest, FileNameLosesViewNumberAndModifiedMark) {
   EXPECT_EQ(editorFileName("C:\\SRC\\FRAME.CPP:2 *"), "C:\\SRC\\FRAME.CPP");

@@ -1,5 +1,5 @@
 // The auto-save countdown and the General page's period check.
-#include "ide/general_options.h"
+#include "project/general_options.h"
 
 #include <gtest/gtest.h>
 

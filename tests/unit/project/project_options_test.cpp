@@ -1,7 +1,7 @@
 // Per-project options: defaults, the rules that accept a stored value, and the save order.
 #include <gtest/gtest.h>
 
-#include "ide/project_options.h"
+#include "project/project_options.h"
 #include "support/fake_host.h"
 
 TEST(ProjectOptionsTest, ProjectWithoutOptionsOpensWithDefaults) {

@@ -1,7 +1,7 @@
 // Lookups in the project tree: the node that holds a file and inherited directory options.
 #include <gtest/gtest.h>
 
-#include "ide/project_tree.h"
+#include "project/project_tree.h"
 
 namespace {
 

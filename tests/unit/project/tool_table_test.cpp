@@ -1,7 +1,7 @@
 // Which IDE tool opens a file, and what the status line says after a run.
 #include <gtest/gtest.h>
 
-#include "ide/tool_table.h"
+#include "project/tool_table.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "foundation/alert.h"
-#include "ide/host.h"
+#include "project/host.h"
 
 // Options kept in memory, as the IDE keeps them in the project.
 class MemoryOptionStore : public ProjectOptionStore {

@@ -4,7 +4,7 @@
 #include "support/fault_os.h"
 #include "support/temp_dir.h"
 #include "tasks/flash.h"
-#include "tasks/project_files.h"
+#include "project/project_files.h"
 #include "tasks/task_clock.h"
 #include "tasks/task_notification.h"
 
