@@ -7,6 +7,7 @@
 #include "foundation/file_mask.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
+#include "topbar/top_bar_settings.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ std::string settingsFilePath() {
 
 void reportError(const std::string& text) { std::cerr << "kesto: " << text << '\n'; }
 
-CliSession::CliSession() : settingsFile_(settingsFilePath()) {
+CliSession::CliSession() : settingsFile_(settingsFilePath()), projectSession_(projectSteps(), false) {
   // $KESTO_LOCK_WAIT: the seconds a run waits for another one that holds a file it changes.
   if (const char* wait = std::getenv("KESTO_LOCK_WAIT"); wait && *wait) {
     char* end = nullptr;
@@ -57,9 +58,32 @@ CliSession::~CliSession() {
   settings().setBackend(nullptr);
 }
 
-bool CliSession::openProject(ProjectUse use) {
+ProjectSteps CliSession::projectSteps() {
+  ProjectSteps steps;
+  steps.loadTasks = [this](const std::string& taskFile, std::string* err) {
+    if (tasksUse_ == ProjectTasks::Skipped) return true;
+    tasks_.filePath = taskFile;
+    // Held from the read to the save, so that a parallel run's change is kept.
+    if (!(tasksLock_ = os().lock(taskFile, err))) {
+      tasksLockRefused_ = true;
+      return false;
+    }
+    return tasks_.load(err);
+  };
+  steps.takeOptions = [this](const ProjectOptions& options) { delivery_.load(options); };
+  steps.takeRecipients = [this](const std::vector<std::string>& recipients) { mail_.setRecipients(recipients); };
+  steps.giveOptions = [this](ProjectOptions* options) {
+    options->mailRecipients = mail_.recipientTexts();
+    storeDeliveryGroups(delivery_.groups, options);
+  };
+  return steps;
+}
+
+bool CliSession::openProject(ProjectUse use, ProjectTasks tasks) {
   if (opened_) return true;
   opened_ = true;
+  mail_.loadSettings();
+  tasks_.loadSettings();
   std::string path = projectOption.empty() ? projectInCurrentDirectory() : projectOption;
   if (path.empty()) return true;
   path = absolutePath(path);
@@ -77,11 +101,29 @@ bool CliSession::openProject(ProjectUse use) {
   }
   project_ = std::move(project);
   host_.setProject(project_.get());
+  tasksUse_ = tasks;
+  std::string tasksErr;
+  projectSession_.open(host_, TopBarSettings::read(true).construction, &tasksErr);
+  if (!tasksErr.empty()) {
+    reportError(tasksErr);
+    // A file another run holds is worth a retry; a damaged one needs a repair.
+    exitStatus = tasksLockRefused_ ? kExitNothing : kExitUsage;
+    return false;
+  }
   return true;
 }
 
-bool CliSession::requireProject(ProjectUse use) {
-  if (!openProject(use)) return false;
+bool CliSession::saveProject(std::string* err) {
+  if (!project_) return false;
+  if (!projectSession_.save(host_)) {
+    *err = "cannot write the options into " + project_->path();
+    return false;
+  }
+  return project_->save(err);
+}
+
+bool CliSession::requireProject(ProjectUse use, ProjectTasks tasks) {
+  if (!openProject(use, tasks)) return false;
   if (project_) return true;
   reportError("no project: give --project FILE or run where one *.kpj file is");
   exitStatus = kExitUsage;

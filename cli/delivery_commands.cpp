@@ -20,10 +20,6 @@ struct DeliveryArguments {
   bool inactive = false;
 };
 
-ProjectOptions readOptions(CliSession& session) {
-  return readProjectOptions(*session.project(), settings().readInteger("TopBar", "Hierarchical", 0));
-}
-
 // The rows, then the question that the confirmation's "Proceed" answers.
 bool confirmOnTerminal(DeliveryConfirmation& confirmation, const DeliveryArguments& args) {
   for (const std::string& row : confirmation.rows()) std::cout << row << '\n';
@@ -35,48 +31,38 @@ bool confirmOnTerminal(DeliveryConfirmation& confirmation, const DeliveryArgumen
 
 void deliver(CliSession& session, const DeliveryArguments& args) {
   if (!session.requireProject()) return;
-  ProjectOptions options = readOptions(session);
-  Delivery delivery;
-  delivery.load(options);
-  Mail mail;
-  mail.loadSettings();
-  mail.setRecipients(options.mailRecipients);
-  TaskList tasks;
-  tasks.loadSettings();
+  const TaskList& tasks = session.tasks();
   DeliveryOutcome outcome =
-      delivery.run(session.host(), mail, tasks.mainOn && tasks.keyIsDelivery,
+      session.delivery().run(session.host(), session.mail(), tasks.mainOn && tasks.keyIsDelivery,
                    [&args](DeliveryConfirmation& confirmation) { return confirmOnTerminal(confirmation, args); });
   bool listedOnly = outcome == DeliveryOutcome::Cancelled && args.dryRun;
   if (outcome != DeliveryOutcome::Delivered && !listedOnly) session.exitStatus = kExitNothing;
 }
 
 // The groups as the option page shows them: rebuilt from the project's delivery node.
-void rebuildGroups(CliSession& session, const ProjectOptions& options, Delivery* delivery) {
-  delivery->load(options);
-  rebuildDeliveryGroups(delivery->groups, &session.project()->root());
+Tableau<OneDelRep>& rebuiltGroups(CliSession& session) {
+  rebuildDeliveryGroups(session.delivery().groups, &session.project()->root());
+  return session.delivery().groups;
 }
 
 void listGroups(CliSession& session) {
   if (!session.requireProject()) return;
-  Delivery delivery;
-  rebuildGroups(session, readOptions(session), &delivery);
-  for (int32_t i = 0; i < delivery.groups.count(); ++i) {
-    const OneDelRep& group = *delivery.groups[i];
+  const Tableau<OneDelRep>& groups = rebuiltGroups(session);
+  for (int32_t i = 0; i < groups.count(); ++i) {
+    const OneDelRep& group = *groups[i];
     std::cout << group.type.c_str() << '\t' << group.directory.c_str() << '\t'
               << (group.active ? "active" : "inactive") << '\n';
   }
-  if (delivery.groups.count() == 0) session.exitStatus = kExitNothing;
+  if (groups.count() == 0) session.exitStatus = kExitNothing;
 }
 
 void setGroup(CliSession& session, const DeliveryArguments& args) {
   if (!session.requireProject(ProjectUse::Update)) return;
-  ProjectOptions options = readOptions(session);
-  Delivery delivery;
-  rebuildGroups(session, options, &delivery);
-  OneDelRep* group = findDeliveryGroup(delivery.groups, args.type);
+  Tableau<OneDelRep>& groups = rebuiltGroups(session);
+  OneDelRep* group = findDeliveryGroup(groups, args.type);
   if (!group) {
     std::string types;
-    for (int32_t i = 0; i < delivery.groups.count(); ++i) types += std::string(" ") + delivery.groups[i]->type.c_str();
+    for (int32_t i = 0; i < groups.count(); ++i) types += std::string(" ") + groups[i]->type.c_str();
     reportError("no delivery group of type " + args.type + "; the types under the DELIVERY node are:" +
                 (types.empty() ? std::string(" none") : types));
     session.exitStatus = kExitUsage;
@@ -84,10 +70,9 @@ void setGroup(CliSession& session, const DeliveryArguments& args) {
   }
   if (!args.directory.empty()) group->directory = args.directory;
   if (args.active || args.inactive) group->active = args.active ? 1 : 0;
-  storeDeliveryGroups(delivery.groups, &options);
   std::string err;
-  if (!writeProjectOptions(*session.project(), options) || !session.project()->save(&err)) {
-    reportError(err.empty() ? "cannot store the delivery groups" : err);
+  if (!session.saveProject(&err)) {
+    reportError(err);
     session.exitStatus = kExitNothing;
   }
 }

@@ -35,7 +35,7 @@ void applyLockPolicy(GwGetPresenter& presenter, const ListArguments& args) { pre
 void applyLockPolicy(GwSendPresenter&, const ListArguments&) {}
 
 // The settings, the project's server and recipients; false when the run cannot go on.
-bool openGroupware(CliSession& session, GroupwareSettings* settings, Mail* mail) {
+bool openGroupware(CliSession& session, GroupwareSettings* settings) {
   if (!session.openProject()) return false;
   settings->load();
   if (settings->enabled == 0) {
@@ -43,11 +43,7 @@ bool openGroupware(CliSession& session, GroupwareSettings* settings, Mail* mail)
     session.exitStatus = kExitNothing;
     return false;
   }
-  mail->loadSettings();
-  if (KpjProject* project = session.project()) {
-    settings->loadServer(*project);
-    loadRecipientsFromProject(*mail, *project);
-  }
+  if (const ProjectOptions* options = session.options()) settings->server = options->groupwareServer;
   return true;
 }
 
@@ -75,8 +71,8 @@ template <typename Presenter>
 void runList(CliSession& session, const std::vector<Button<Presenter>>& buttons, bool (Presenter::*perform)(),
              const CLI::App& command, const ListArguments& args) {
   GroupwareSettings settings;
-  Mail mail;
-  if (!openGroupware(session, &settings, &mail)) return;
+  if (!openGroupware(session, &settings)) return;
+  Mail& mail = session.mail();
   Presenter presenter(session.host(), mail, settings);
   applyLockPolicy(presenter, args);
   if (!presenter.open()) {
@@ -126,8 +122,7 @@ std::shared_ptr<ListArguments> installList(CLI::App& command, CliSession& sessio
 
 void listLocks(CliSession& session) {
   GroupwareSettings settings;
-  Mail mail;
-  if (!openGroupware(session, &settings, &mail)) return;
+  if (!openGroupware(session, &settings)) return;
   GwRoots roots;
   if (!groupwareRoots(session.host(), settings, &roots)) {
     session.exitStatus = kExitNothing;

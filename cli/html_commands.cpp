@@ -7,8 +7,8 @@
 #include "cli/command_table.h"
 #include "cli/html_site.h"
 #include "foundation/os.h"
-#include "foundation/settings.h"
 #include "html/ht_generation.h"
+#include "html/html_settings.h"
 
 namespace {
 
@@ -19,13 +19,6 @@ struct HtmlArguments {
   bool open = false;
 };
 
-// The name a directory goes by: its last component, that of the current directory for ".".
-std::string directoryName(std::string directory) {
-  while (directory.size() > 1 && directory.back() == kPathSeparator) directory.pop_back();
-  std::string name = fileNameOf(directory);
-  return name.empty() || name == "." ? fileNameOf(os().currentDirectory()) : name;
-}
-
 void generate(CliSession& session, const HtmlArguments& args) {
   std::string directory = args.directory;
   std::string filters = args.filters;
@@ -33,11 +26,12 @@ void generate(CliSession& session, const HtmlArguments& args) {
   if (directory.empty()) {
     if (!session.requireProject()) return;
     directory = session.projectDirectory();
-    if (filters.empty()) filters = readProjectOptions(*session.project(), 0).htmlFilters;
+    if (filters.empty()) filters = session.options()->htmlFilters;
     if (name.empty()) name = htProjectName(session.project()->path());
   } else {
-    if (filters.empty()) settings().readString("HTML", "Filters", &filters, "*.cpp;*.cc;*.c;*.h;*.rh");
-    if (name.empty()) name = directoryName(directory);
+    const HtmlSettings html = HtmlSettings::read(directory);
+    if (filters.empty()) filters = html.filters;
+    if (name.empty()) name = html.siteName;
   }
   if (!writeHtmlSite(session, directory, filters, name)) return;
   std::cout << htFramesetPath(directory, name) << '\n';

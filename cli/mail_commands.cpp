@@ -21,14 +21,12 @@ struct MailArguments {
 template <typename Edit>
 void editRecipients(CliSession& session, Edit edit) {
   if (!session.requireProject(ProjectUse::Update)) return;
-  Mail mail;
-  mail.loadSettings();
-  loadRecipientsFromProject(mail, *session.project());
-  MailPagePresenter page(mail);
+  MailPagePresenter page(session.mail());
   page.show(true);
   if (!edit(page)) return;
+  page.accept();
   std::string err;
-  if (!page.accept(session.project()) || !session.project()->save(&err)) {
+  if (!session.saveProject(&err)) {
     reportError("cannot save the recipients: " + err);
     session.exitStatus = kExitNothing;
   }
@@ -48,19 +46,15 @@ bool selectRecipient(CliSession& session, MailPagePresenter& page, int32_t row) 
 
 void listRecipients(CliSession& session) {
   if (!session.requireProject()) return;
-  Mail mail;
-  loadRecipientsFromProject(mail, *session.project());
+  const Mail& mail = session.mail();
   for (const std::string& recipient : mail.recipientTexts()) std::cout << recipient << '\n';
   if (mail.recipients.count() == 0) session.exitStatus = kExitNothing;
 }
 
 void send(CliSession& session, const MailArguments& args) {
   if (!session.requireProject()) return;
-  Mail mail;
-  mail.loadSettings();
-  loadRecipientsFromProject(mail, *session.project());
   std::string body(std::istreambuf_iterator<char>(std::cin), {});
-  if (!mail.send(session.host(), args.subject, body, args.include)) {
+  if (!session.mail().send(session.host(), args.subject, body, args.include)) {
     reportError("the mail was not sent");
     session.exitStatus = kExitNothing;
   }

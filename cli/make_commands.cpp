@@ -47,7 +47,7 @@ bool runBuild(const std::vector<std::string>& command) {
 void make(CliSession& session, const MakeArguments& args) {
   if (!session.requireProject()) return;
   MakeSequence sequence;
-  sequence.setOptions(readProjectOptions(*session.project(), settings().readInteger("TopBar", "Hierarchical", 0)));
+  if (const ProjectOptions* options = session.options()) sequence.setOptions(*options);
   sequence.started(session.host());
   bool succeeded = args.command.empty() || runBuild(args.command);
   const std::string name = htProjectName(session.project()->path());

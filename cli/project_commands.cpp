@@ -69,7 +69,7 @@ void show(CliSession& session) {
   for (const ProjectNode& node : project.root().nodes) printNode(node, "  ");
   std::cout << "options:\n";
   OrderedOptions ordered;
-  writeProjectOptions(ordered, readProjectOptions(project, settings().readInteger("TopBar", "Hierarchical", 0)));
+  writeProjectOptions(ordered, *session.options());
   for (const auto& [name, bytes] : ordered.entries) std::cout << "  " << name << '\t' << optionText(name, bytes) << '\n';
 }
 

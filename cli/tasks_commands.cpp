@@ -41,25 +41,9 @@ class TaskSession {
   explicit TaskSession(CliSession& session) : session_(session) {}
 
   bool open() {
-    if (!session_.requireProject()) return false;
-    KpjProject& project = *session_.project();
-    tasks_.filePath = taskFilePath(project.path());
-    // Held from the read to the save, so that a parallel run's change is kept.
-    std::string err;
-    if (!(lock_ = os().lock(tasks_.filePath.str(), &err))) {
-      reportError(err);
-      session_.exitStatus = kExitNothing;
-      return false;
-    }
-    if (!tasks_.load(&err)) {
-      reportError(err);
-      session_.exitStatus = kExitUsage;
-      return false;
-    }
-    tasks_.rebuildView();
-    mail_.loadSettings();
-    loadRecipientsFromProject(mail_, project);
-    presenter_ = std::make_unique<TaskListPresenter>(tasks_, mail_, session_.host());
+    if (!session_.requireProject(ProjectUse::Read, ProjectTasks::Loaded)) return false;
+    session_.tasks().rebuildView();
+    presenter_ = std::make_unique<TaskListPresenter>(session_.tasks(), session_.mail(), session_.host());
     presenter_->open();
     return true;
   }
@@ -67,7 +51,7 @@ class TaskSession {
   // Saves the task file when the presenter changed something.
   void close() {
     std::string err;
-    if (presenter_ && presenter_->modified() && !tasks_.save(&err)) {
+    if (presenter_ && presenter_->modified() && !session_.tasks().save(&err)) {
       reportError(err);
       session_.exitStatus = kExitNothing;
     }
@@ -86,15 +70,12 @@ class TaskSession {
     return true;
   }
 
-  TaskList& tasks() { return tasks_; }
+  TaskList& tasks() { return session_.tasks(); }
   TaskListPresenter& presenter() { return *presenter_; }
   CliSession& cli() { return session_; }
 
  private:
   CliSession& session_;
-  std::unique_ptr<OsLock> lock_;
-  TaskList tasks_;
-  Mail mail_;
   std::unique_ptr<TaskListPresenter> presenter_;
 };
 

@@ -4,8 +4,9 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
-#include "foundation/settings.h"
+#include "groupware/groupware_settings.h"
 #include "topbar/bar_menu.h"
+#include "topbar/top_bar_settings.h"
 
 namespace {
 
@@ -36,13 +37,14 @@ void printBar(CliSession& session) {
   recent.load();
   BarMenuInputs inputs;
   inputs.recent = &recent;
-  inputs.menuSize = settings().readInteger("TopBar", "MenuSize", 50);
-  inputs.groupwareActive = settings().readInteger("Groupware", "Enabled", 1) != 0;
-  if (KpjProject* project = session.project()) {
-    ProjectOptions options = readProjectOptions(*project, settings().readInteger("TopBar", "Hierarchical", 0));
-    inputs.project = &project->root();
-    inputs.construction = options.hierarchical;
-    inputs.htmlActive = options.htmlEnabled != 0;
+  inputs.menuSize = TopBarSettings::read(true).menuSize;
+  GroupwareSettings groupware;
+  groupware.load();
+  inputs.groupwareActive = groupware.enabled != 0;
+  if (const ProjectOptions* options = session.options()) {
+    inputs.project = &session.project()->root();
+    inputs.construction = options->hierarchical;
+    inputs.htmlActive = options->htmlEnabled != 0;
   }
   std::cout << describeMenu(buildBarMenu(inputs).bar);
 }

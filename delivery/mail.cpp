@@ -13,8 +13,6 @@ std::vector<std::string> texts(const Ensemble<String>& list) {
   return out;
 }
 
-int32_t hierarchicalDefault() { return settings().readInteger("TopBar", "Hierarchical", 0); }
-
 }  // namespace
 
 void Mail::loadSettings() { control = settings().readInteger("Mail", "Control", 0); }
@@ -67,12 +65,3 @@ int Mail::send(Host& host, const std::string& subject, const std::string& body, 
   return 0;
 }
 
-void loadRecipientsFromProject(Mail& mail, ProjectOptionStore& store) {
-  mail.setRecipients(readProjectOptions(store, hierarchicalDefault()).mailRecipients);
-}
-
-bool saveRecipientsToProject(const Mail& mail, ProjectOptionStore& store) {
-  ProjectOptions options = readProjectOptions(store, hierarchicalDefault());
-  options.mailRecipients = mail.recipientTexts();
-  return writeProjectOptions(store, options);
-}

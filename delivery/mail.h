@@ -31,7 +31,3 @@ class Mail {
 
 // The body, then, when the file can be read, its lines, 70 hyphens and the closing line.
 std::string buildMailNote(const std::string& body, const std::string& includeFile);
-
-// Recipients as they are read from the project's options and written back.
-void loadRecipientsFromProject(Mail& mail, ProjectOptionStore& store);
-bool saveRecipientsToProject(const Mail& mail, ProjectOptionStore& store);

@@ -34,6 +34,6 @@ bool MailOptionPage::enabled(int32_t id) const {
 }
 
 void MailOptionPage::store() {
-  presenter_.accept(nullptr);
+  presenter_.accept();
   mail_.saveSettings();
 }

@@ -67,8 +67,7 @@ void MailPagePresenter::paste() {
   changed = true;
 }
 
-bool MailPagePresenter::accept(ProjectOptionStore* store) {
+void MailPagePresenter::accept() {
   mail_.control = controlChecked ? 1 : 0;
   mail_.setRecipients(rows);
-  return !store || saveRecipientsToProject(mail_, *store);
 }

@@ -35,9 +35,9 @@ class MailPagePresenter {
   void copyAll();      // 1015
   void paste();        // 1016
 
-  // Control and the recipients take the page's values; the project's options
-  // are then written to store (when there is one). False when that write failed.
-  bool accept(ProjectOptionStore* store);
+  // Control and the recipients take the page's values; the host's project
+  // session writes the recipients into the project when it saves.
+  void accept();
 
  private:
   void selectAndShow(int32_t row);

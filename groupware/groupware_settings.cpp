@@ -24,7 +24,3 @@ void GroupwareSettings::save() const {
   settings().writeInteger(kSection, "MailOnSend", mailOnSend);
   settings().writeString(kSection, "Filters", filters.str());
 }
-
-void GroupwareSettings::loadServer(ProjectOptionStore& store) {
-  server = readProjectOptions(store, settings().readInteger("TopBar", "Hierarchical", 0)).groupwareServer;
-}

@@ -19,6 +19,4 @@ struct GroupwareSettings {
   // Defaults apply to every value the store does not hold.
   void load();
   void save() const;
-  // Takes KestoGroupwareServer from the open project's options.
-  void loadServer(ProjectOptionStore& store);
 };

@@ -161,6 +161,12 @@ TopBarLinks topBarLinks() {
   links.tools = [] { return static_cast<const Tableau<Tool>*>(addon().tools); };
   links.recentFiles = [] { return static_cast<const RecentFiles*>(addon().recentFiles); };
   links.projectOptions = [] { return static_cast<const ProjectOptions*>(openProjectOptions()); };
+  // As stored: the bar may be rebuilt before the groupware object is made.
+  links.groupwareActive = [] {
+    GroupwareSettings groupware;
+    groupware.load();
+    return groupware.enabled != 0;
+  };
   links.openAndRecord = [](const std::string& path) { return openAndRecord(path); };
   links.activateFrame = activateIdeFrame;
   links.removeProjectNode = removeIdeProjectNode;

@@ -2,7 +2,6 @@
 // file, the mail recipients and the make client follow the open project.
 #include "ide/project_client_win32.h"
 
-#include <memory>
 #include <new>
 
 #include "delivery/deliv_tool_win32.h"
@@ -21,18 +20,14 @@
 #include "ide/make_client_win32.h"
 #include "rcgen/make_sequence.h"
 #include "topbar/recent_files.h"
+#include "topbar/top_bar_settings.h"
 #include "topbar/top_bar_win32.h"
 #include "tasks/flash.h"
-#include "project/project_files.h"
+#include "project/project_session.h"
 #include "tasks/task_list.h"
 #include "tasks/task_list_dialog_win32.h"
 
 namespace {
-
-std::unique_ptr<ProjectOptions> gOpenProject;
-std::string gProjectFile;  // the open project's, for the recent list when it closes
-
-void readOpenProject(const std::string& projectFile);
 
 void emptyTasks() {
   if (!addon().tasks) return;
@@ -54,28 +49,65 @@ void makeEnded(bool succeeded) {
   });
 }
 
+// What each feature of the add-on does as the project opens, is saved and closes.
+ProjectSteps addonProjectSteps() {
+  ProjectSteps steps;
+  steps.loadTasks = [](const std::string& taskFile, std::string* err) {
+    if (!addon().tasks) return true;
+    addon().tasks->filePath = taskFile;
+    return addon().tasks->load(err);
+  };
+  steps.takeOptions = [](const ProjectOptions& options) {
+    if (addon().makeSequence) addon().makeSequence->setOptions(options);
+    if (options.withDelivery && addon().delivTool) addon().delivTool->registerTool();
+    if (addon().delivery) addon().delivery->load(options);
+    if (addon().groupware) addon().groupware->server = options.groupwareServer;
+  };
+  steps.takeRecipients = [](const std::vector<std::string>& recipients) {
+    if (addon().mail) addon().mail->setRecipients(recipients);
+  };
+  steps.decideFlash = [](const std::string& flashMarker) {
+    // The report is built once the project has finished opening.
+    if (addon().tasks && addon().bar && shouldFlashAtProjectOpen(*addon().tasks, flashMarker))
+      PostMessageA(addon().bar, WM_COMMAND, kAutomaticFlashCommand, 0);
+  };
+  steps.giveOptions = [](ProjectOptions* options) {
+    if (addon().mail) options->mailRecipients = addon().mail->recipientTexts();
+    if (addon().delivery) storeDeliveryGroups(addon().delivery->groups, options);
+  };
+  steps.forget = [] {
+    if (addon().delivery) addon().delivery->groups.clear();
+    if (addon().mail) addon().mail->setRecipients({});
+    if (addon().groupware) addon().groupware->server = "";
+  };
+  return steps;
+}
+
+ProjectSession& projectSession() {
+  static ProjectSession session(addonProjectSteps(), true);
+  return session;
+}
+
 }  // namespace
 
-ProjectOptions* openProjectOptions() { return gOpenProject.get(); }
+ProjectOptions* openProjectOptions() { return projectSession().options(); }
 
-void saveProjectOptions() {
-  ProjectOptionStore* store = ideHost().projectOptions();
-  if (!gOpenProject || !store) return;
-  if (addon().mail) gOpenProject->mailRecipients = addon().mail->recipientTexts();
-  if (addon().delivery) storeDeliveryGroups(addon().delivery->groups, gOpenProject.get());
-  writeProjectOptions(*store, *gOpenProject);
-}
+void saveProjectOptions() { projectSession().save(ideHost()); }
 
 void __stdcall ProjectClientImpl::ProjectOpened(IIdeString*) {
   emptyTasks();
-  const std::string projectFile = ideHost().projectFile();
   // The IDE may tell of a project that it did not load.
-  if (projectFile.empty()) return;
-  gProjectFile = projectFile;
+  if (ideHost().projectFile().empty()) return;
+  const std::string projectFile = ideHost().projectFile();
   if (addon().topBar) addon().topBar->collapse();
   // The open project is never offered as a recent one.
   if (addon().recentFiles) addon().recentFiles->forgetProject(projectFile);
-  readOpenProject(projectFile);
+  std::string tasksErr;
+  const bool newShell = addon().environment && addon().environment->newShell != 0;
+  projectSession().open(ideHost(), TopBarSettings::read(newShell).construction, &tasksErr);
+  if (!tasksErr.empty()) alert(tasksErr, "Kesto AddOn error", kAlertIconExclamation);
+  if (addon().general) addon().general->projectOpened();
+  registerMakeClient([] { return new (std::nothrow) MakeClient(makeStarted, makeEnded); });
   if (addon().topBar) addon().topBar->rebuildMenu();
 }
 
@@ -83,48 +115,17 @@ void __stdcall ProjectClientImpl::ProjectClosed() {
   if (addon().topBar) addon().topBar->collapse();
   // The dialog saves its changes into the closing project's task file.
   if (HWND dialog = taskListDialog()) DestroyWindow(dialog);
-  if (!gOpenProject) return;
+  if (!projectSession().options()) return;
   unregisterMakeClient();
   if (addon().delivTool) addon().delivTool->unregisterTool();
-  if (addon().delivery) addon().delivery->groups.clear();
-  if (addon().mail) addon().mail->setRecipients({});
-  if (addon().groupware) addon().groupware->server = "";
-  if (addon().recentFiles) addon().recentFiles->rememberProject(gProjectFile);
-  gOpenProject.reset();
+  if (addon().recentFiles) addon().recentFiles->rememberProject(projectSession().projectFile());
+  projectSession().close();
   if (addon().topBar) addon().topBar->rebuildMenu();
 }
 
-namespace {
-
-void readOpenProject(const std::string& projectFile) {
-  if (addon().tasks) {
-    addon().tasks->filePath = projectFile + ".tsk";
-    std::string err;
-    if (!addon().tasks->load(&err)) alert(err, "Kesto AddOn error", kAlertIconExclamation);
-    // The report is built once the project has finished opening.
-    if (addon().bar && shouldFlashAtProjectOpen(*addon().tasks, flashMarkerPath(projectFile)))
-      PostMessageA(addon().bar, WM_COMMAND, kAutomaticFlashCommand, 0);
-  }
-  std::string directory = directoryOf(projectFile);
-  os().setCurrentDirectory(directory.empty() ? os().currentDirectory() : directory, nullptr);
-  if (addon().general) addon().general->projectOpened();
-  registerMakeClient([] { return new (std::nothrow) MakeClient(makeStarted, makeEnded); });
-  ProjectOptionStore* store = ideHost().projectOptions();
-  if (!store) return;
-  gOpenProject = std::make_unique<ProjectOptions>(
-      readProjectOptions(*store, settings().readInteger("TopBar", "Hierarchical", 0)));
-  if (addon().makeSequence) addon().makeSequence->setOptions(*gOpenProject);
-  if (gOpenProject->withDelivery && addon().delivTool) addon().delivTool->registerTool();
-  if (addon().delivery) addon().delivery->load(*gOpenProject);
-  if (addon().groupware) addon().groupware->server = gOpenProject->groupwareServer;
-  if (addon().mail) addon().mail->setRecipients(gOpenProject->mailRecipients);
-}
-
-}  // namespace
-
 // A renamed node shows under its new name: the menus are built again from the tree.
 void __stdcall ProjectClientImpl::NodeChanged(IdeHandle) {
-  if (gOpenProject && addon().topBar) addon().topBar->rebuildMenu();
+  if (projectSession().options() && addon().topBar) addon().topBar->rebuildMenu();
 }
 
 void __stdcall ProjectClient2Impl::ProjectSaving() { saveProjectOptions(); }
@@ -160,5 +161,5 @@ void ProjectTestA::unregisterClients() {
   if (projectSave_) projectSave_->Release();
   project_ = nullptr;
   projectSave_ = nullptr;
-  gOpenProject.reset();
+  projectSession().close();
 }

@@ -91,7 +91,7 @@ void TopBar::rebuildMenu() {
   inputs.hideWithView = options ? options->hideWithView != 0 : settings.hideWithView != 0;
   inputs.projectViewOpen = projectViewOpen();
   inputs.menuSize = settings.menuSize;
-  inputs.groupwareActive = ::settings().readInteger("Groupware", "Enabled", 1) != 0;
+  inputs.groupwareActive = links_.groupwareActive();
   inputs.htmlActive = options && options->htmlEnabled != 0;
   menu_ = buildBarMenu(inputs);
   OwnedMenu menuBar = buildMenuBar(menu_.bar);

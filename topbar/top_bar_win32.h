@@ -26,6 +26,7 @@ struct TopBarLinks {
   std::function<const Tableau<Tool>*()> tools;        // null while there is none
   std::function<const RecentFiles*()> recentFiles;    // null while there are none
   std::function<const ProjectOptions*()> projectOptions;  // null without a project
+  std::function<bool()> groupwareActive;                  // the Groupware menu is shown
   std::function<bool(const std::string& path)> openAndRecord;
   std::function<void()> activateFrame;
   // Takes a node of host->projectRoot()'s tree out of the project.
