@@ -51,7 +51,7 @@ int main() {
   CompletionEngine engine;
   engine.files = {path};
   Clock::time_point start = Clock::now();
-  engine.load();
+  engine.load(&err);
   double loadSeconds = secondsSince(start);
   os().removeFile(path, nullptr);
   std::printf("keywords loaded: %zu from %.1f MB in %.3f s\n", engine.keywordCount(), file.size() / 1e6, loadSeconds);

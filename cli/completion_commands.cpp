@@ -86,7 +86,8 @@ void extract(CliSession& session, const KeywordsArguments& args) {
 void complete(CliSession& session, const CompleteArguments& args, bool wholeLine) {
   CompletionEngine engine;
   engine.readSettings();
-  engine.load();
+  std::string skipped;
+  if (!engine.load(&skipped)) reportError(skipped);
   std::string statePath = completionStatePath();
   std::string lastShown;
   if (os().exists(statePath) && os().readFile(statePath, &lastShown, nullptr))

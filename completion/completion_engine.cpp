@@ -31,19 +31,25 @@ bool CompletionEngine::writeSettings() const {
   return store.writeList(kSection, kFilesList, files) && ok;
 }
 
-void CompletionEngine::load() {
+bool CompletionEngine::load(std::string* err) {
   keywords_.clear();
   fileBytes_.clear();
   lastMatch_ = -1;
+  err->clear();
   for (const std::string& path : files) {
     std::string bytes;
-    if (!os().readFile(path, &bytes, nullptr)) continue;
+    std::string reason;
+    if (!os().readFile(path, &bytes, &reason)) {
+      *err += (err->empty() ? "" : "; ") + std::string("keyword file skipped: ") + reason;
+      continue;
+    }
     fileBytes_.push_back(std::move(bytes));
     parseKeywordFile(fileBytes_.back(), &keywords_);
   }
   // string_view compares bytes as unsigned values, the order the searches rely on.
   std::stable_sort(keywords_.begin(), keywords_.end(),
                    [](const KeywordEntry& a, const KeywordEntry& b) { return a.keyword < b.keyword; });
+  return err->empty();
 }
 
 CompletionMatch CompletionEngine::complete(std::string_view prefix, std::string* text) {

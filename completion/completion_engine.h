@@ -34,9 +34,10 @@ class CompletionEngine {
   std::vector<std::string> files;  // keyword file paths, in list order
 
   // Empties the keyword list and reads every file of the list in order; a file
-  // that cannot be read is skipped. The list is then sorted by keyword bytes,
-  // keywords that are equal keeping their file order.
-  void load();
+  // that cannot be read is skipped, and named with its reason in *err (false).
+  // The list is then sorted by keyword bytes, keywords that are equal keeping
+  // their file order.
+  bool load(std::string* err);
 
   // Matches prefix against the keywords. The text is what the matches share
   // beyond the prefix; statusText() and lastMatch() tell the rest.

@@ -29,7 +29,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (!os().writeFile(path, keywords, nullptr)) return 0;
   CompletionEngine engine;
   engine.files = {path};
-  engine.load();
+  std::string err;
+  engine.load(&err);
   CaretCompletion outcome = completeAtCaret(engine, line, column);
   if (!outcome.insertText.empty() && outcome.caretColumn != column + static_cast<int32_t>(outcome.insertText.size()))
     __builtin_trap();

@@ -21,7 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     return 0;
   CompletionEngine engine;
   engine.files = {keywords};
-  engine.load();
+  std::string err;
+  engine.load(&err);
   std::string lastShown;
   if (!os().readFile(statePath, &lastShown, nullptr)) return 0;
   engine.setLastShownDescription(lastShown);

@@ -15,7 +15,7 @@ bool refuse(const char* text) {
 }  // namespace
 
 const ProjectNode* QuickAddPresenter::containerParent() const {
-  const ProjectNode* parent = parentOf(top_, current_);
+  const ProjectNode* parent = (current_ ? parentOf(top_, *current_) : nullptr);
   switch (level) {
     case ContainerLevel::Sibling:
       return parent;
@@ -28,6 +28,11 @@ const ProjectNode* QuickAddPresenter::containerParent() const {
   return nullptr;
 }
 
+const ProjectNode* QuickAddPresenter::inHostTree(const ProjectNode* node) {
+  const ProjectNode* root = node ? host_.projectRoot() : nullptr;
+  return root ? sameNodeIn(top_, *node, *root) : nullptr;
+}
+
 bool QuickAddPresenter::ok() {
   std::string node = name.substr(0, kMaxNodeName);
   if (node.empty()) return refuse("You should specify a node name !");
@@ -35,12 +40,12 @@ bool QuickAddPresenter::ok() {
   if (node.find('.') == std::string::npos) node += ".cpp";
   if (!newContainer) {
     // The top node has no parent to hold a sibling.
-    const ProjectNode* parent = parentOf(top_, current_);
+    const ProjectNode* parent = inHostTree(current_ ? parentOf(top_, *current_) : nullptr);
     if (!parent) return refuse("No way to get parent node");
     result_ = host_.addProjectNode(*parent, node, "");
     return true;
   }
-  const ProjectNode* parent = containerParent();
+  const ProjectNode* parent = inHostTree(containerParent());
   if (!parent) return refuse("No way to get parent node");
   std::string container = containerName.substr(0, kMaxContainerName);
   if (container.empty()) return refuse("You should specify a container name !");

@@ -15,10 +15,11 @@ class QuickAddPresenter {
   static constexpr size_t kMaxNodeName = 180;
   static constexpr size_t kMaxContainerName = 255;
 
-  // top: host's project tree as projectRoot() gave it, unchanged since;
-  // current: the node of that tree the user works on.
+  // top: host's project tree as projectRoot() gave it; current: the node of
+  // that tree the user works on. Both are copied: the host may read its tree
+  // again while the dialog is up, and its nodes move then.
   QuickAddPresenter(Host& host, const ProjectNode& top, const ProjectNode& current)
-      : host_(host), top_(top), current_(current) {}
+      : host_(host), top_(top), current_(sameNodeIn(top, current, top_)) {}
 
   // The controls, as the dialog holds them when it opens.
   std::string name;                              // 102
@@ -36,9 +37,11 @@ class QuickAddPresenter {
  private:
   // The node the container goes under, by the chosen level; null when there is none.
   const ProjectNode* containerParent() const;
+  // node, a node of the copy, in the host's tree as it is now; null when gone.
+  const ProjectNode* inHostTree(const ProjectNode* node);
 
   Host& host_;
-  const ProjectNode& top_;
-  const ProjectNode& current_;
+  const ProjectNode top_;
+  const ProjectNode* current_;
   const ProjectNode* result_ = nullptr;
 };

@@ -25,7 +25,7 @@ class AddonHookClient : public HookClient {
     return ::hitTitleBarButton(editor, addonTitleBarOptions(), point, popup);
   }
   uint32_t completionKey() override {
-    CompletionEngine* completion = addon().completion;
+    CompletionEngine* completion = addon().completion.get();
     return completion && completion->enabled ? static_cast<uint32_t>(completion->keyCode) : 0;
   }
   std::array<uint16_t, 4> quickFindKeys() override {

@@ -56,35 +56,36 @@ bool gOleStarted = false;
 bool gBarClassRegistered = false;
 HMENU gStartupMenu = nullptr;  // from its creation until the bar takes it
 
-template <typename T>
-void destroy(T*& slot) {
-  delete slot;
-  slot = nullptr;
+template <typename Slot>
+void destroy(Slot& slot) {
+  slot.reset();
 }
 
 // Feature objects read their settings when they are made and write them back
 // when they are deleted.
 template <typename T>
-void create(T*& slot, void (T::*readSettings)()) {
-  slot = new (std::nothrow) T();
-  if (slot && readSettings) (slot->*readSettings)();
+void create(std::unique_ptr<T>& slot, void (T::*readSettings)()) {
+  slot.reset(new (std::nothrow) T());
+  if (slot && readSettings) (slot.get()->*readSettings)();
 }
 
 template <typename T, typename Result>
-void saveAndDestroy(T*& slot, Result (T::*writeSettings)() const) {
-  if (slot) (slot->*writeSettings)();
+void saveAndDestroy(std::unique_ptr<T>& slot, Result (T::*writeSettings)() const) {
+  if (slot) (slot.get()->*writeSettings)();
   destroy(slot);
 }
 
 template <typename T>
-void saveAndDestroy(T*& slot, void (T::*writeSettings)()) {
-  if (slot) (slot->*writeSettings)();
+void saveAndDestroy(std::unique_ptr<T>& slot, void (T::*writeSettings)()) {
+  if (slot) (slot.get()->*writeSettings)();
   destroy(slot);
 }
 
 void createCompletion(IIdeRoot*) {
   create(addon().completion, &CompletionEngine::readSettings);
-  if (addon().completion) addon().completion->load();
+  // A keyword file that cannot be read is skipped without a word, as the add-on always did.
+  std::string skipped;
+  if (addon().completion) addon().completion->load(&skipped);
 }
 
 void registerBar(IIdeRoot*) { gBarClassRegistered = registerBarClass(addon().environment->instance); }
@@ -108,20 +109,20 @@ void destroyBar(IIdeRoot*) {
 }
 
 void createHelpFile(IIdeRoot*) {
-  addon().helpFile = new (std::nothrow) HelpFile(addon().environment->instance, addon().bar);
+  addon().helpFile.reset(new (std::nothrow) HelpFile(addon().environment->instance, addon().bar));
 }
 
 void createEditorHolder(IIdeRoot*) {
-  addon().editor = new (std::nothrow) ServiceHolder<IIdeEditor>(ide_iid::kEditor);
+  addon().editor.reset(new (std::nothrow) ServiceHolder<IIdeEditor>(ide_iid::kEditor));
 }
 
 void createStatusLineHolder(IIdeRoot*) {
-  addon().statusLine = new (std::nothrow) ServiceHolder<IIdeStatusLine>(ide_iid::kStatusLine);
+  addon().statusLine.reset(new (std::nothrow) ServiceHolder<IIdeStatusLine>(ide_iid::kStatusLine));
 }
 
 void createToolTable(IIdeRoot*) {
-  addon().tools = new (std::nothrow) Tableau<Tool>();
-  if (addon().tools) fillToolTable(addon().tools);
+  addon().tools.reset(new (std::nothrow) Tableau<Tool>());
+  if (addon().tools) fillToolTable(addon().tools.get());
 }
 
 void showBar(IIdeRoot*) {
@@ -129,18 +130,17 @@ void showBar(IIdeRoot*) {
 }
 
 void createOptionsHolder(IIdeRoot*) {
-  addon().options = new (std::nothrow) ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions);
+  addon().options.reset(new (std::nothrow) ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions));
   if (addon().options && !addon().options->get())
     alert("Assertion failed: svr!=NULL, file koptions, line 13", "Erreur", kAlertIconHand);
   // The chapter goes into the IDE's options dialog with the holder's service.
   if (!addon().options || !addon().options->get()) return;
-  addon().chapter = new (std::nothrow) IMpdChapterAddon(addon().environment->instance);
-  if (addon().chapter) addon().options->get()->AddChapter(addon().chapter);
+  addon().chapter.reset(new (std::nothrow) IMpdChapterAddon(addon().environment->instance));
+  if (addon().chapter) addon().options->get()->AddChapter(addon().chapter.get());
 }
 
 void releaseChapter(IIdeRoot*) {
-  if (addon().chapter) addon().chapter->Release();
-  addon().chapter = nullptr;
+  addon().chapter.reset();
 }
 
 // The delivery tool's run: the open project with the confirmation dialog, and
@@ -158,8 +158,8 @@ void runDelivery() {
 TopBarLinks topBarLinks() {
   TopBarLinks links;
   links.host = &ideHost();
-  links.tools = [] { return static_cast<const Tableau<Tool>*>(addon().tools); };
-  links.recentFiles = [] { return static_cast<const RecentFiles*>(addon().recentFiles); };
+  links.tools = [] { return static_cast<const Tableau<Tool>*>(addon().tools.get()); };
+  links.recentFiles = [] { return static_cast<const RecentFiles*>(addon().recentFiles.get()); };
   links.projectOptions = [] { return static_cast<const ProjectOptions*>(openProjectOptions()); };
   // As stored: the bar may be rebuilt before the groupware object is made.
   links.groupwareActive = [] {
@@ -179,12 +179,12 @@ TopBarLinks topBarLinks() {
 
 void createTopBar(IIdeRoot*) {
   if (addon().bar)
-    addon().topBar = new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0, topBarLinks());
+    addon().topBar.reset(new (std::nothrow) TopBar(addon().bar, addon().environment->newShell != 0, topBarLinks()));
 }
 
 const Step kInitialisation[] = {
     {"store the IDE pointer", [](IIdeRoot* ide) { storeIdePointer(ide); }},
-    {"probe the environment", [](IIdeRoot*) { probeEnvironment(addon().environment); }},
+    {"probe the environment", [](IIdeRoot*) { probeEnvironment(addon().environment.get()); }},
     {"register the bar's window class", registerBar},
     {"create the start-up menu", createMenu},
     {"create the bar window", createBar},
@@ -207,14 +207,14 @@ const Step kInitialisation[] = {
     {"show or hide the bar", showBar},
     {"install the hooks, given the bar",
      [](IIdeRoot*) {
-       if (addon().bar) addon().hooks = new (std::nothrow) HookSet(addon().bar, addonHookClient());
+       if (addon().bar) addon().hooks.reset(new (std::nothrow) HookSet(addon().bar, addonHookClient()));
      }},
     {"create and register the project clients",
      [](IIdeRoot*) {
        create<ProjectTestA>(addon().projectClients, nullptr);
        if (addon().projectClients) addon().projectClients->registerClients();
      }},
-    {"create the delivery tool", [](IIdeRoot*) { addon().delivTool = new (std::nothrow) DelivTool(runDelivery); }},
+    {"create the delivery tool", [](IIdeRoot*) { addon().delivTool.reset(new (std::nothrow) DelivTool(runDelivery)); }},
     {"load the recent-file lists", [](IIdeRoot*) { create(addon().recentFiles, &RecentFiles::load); }},
     {"hold the options service", createOptionsHolder},
     {"create the mail options", [](IIdeRoot*) { create(addon().mail, &Mail::loadSettings); }},
@@ -271,8 +271,7 @@ const Step kShutdown[] = {
      [](IIdeRoot*) {
        if (!addon().delivTool) return;
        addon().delivTool->unregisterTool();
-       addon().delivTool->Release();
-       addon().delivTool = nullptr;
+       addon().delivTool.reset();
      }},
     {"release the chapter", releaseChapter},
     {"release the options service", [](IIdeRoot*) { destroy(addon().options); }},
@@ -289,13 +288,13 @@ void run(const Step (&steps)[n], IIdeRoot* ide) {
 }  // namespace
 
 bool attachAddon(HINSTANCE instance) {
-  addon().environment = new (std::nothrow) AddonEnvironment();
+  addon().environment.reset(new (std::nothrow) AddonEnvironment());
   if (!addon().environment) return false;
   settings().setRoot(SettingsStore::kAddOnRoot);
   settings().setBackend(&gRegistry);
   setAlertHandler(&gMessageBoxAlerts);
   addon().environment->instance = instance;
-  probeEnvironment(addon().environment);
+  probeEnvironment(addon().environment.get());
   if (FAILED(OleInitialize(nullptr))) return false;
   gOleStarted = true;
   return true;

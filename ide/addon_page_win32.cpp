@@ -214,6 +214,6 @@ void AddonPageBase::refresh(int32_t except) {
 void AddonPageBase::captureKeyFor(int32_t id) {
   uint32_t code = 0;
   std::string text;
-  if (!captureKey(instance_, GetAncestor(dialog_, GA_ROOT), addon().hooks, &code, &text)) return;
+  if (!captureKey(instance_, GetAncestor(dialog_, GA_ROOT), addon().hooks.get(), &code, &text)) return;
   presenter_->keyCaptured(id, code, text);
 }

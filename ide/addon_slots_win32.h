@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <memory>
+
 #include "ide/addon_environment_win32.h"
 #include "win32/ide_access_win32.h"
 #include "project/tool_table.h"
@@ -25,29 +27,35 @@ class SourceScanner;
 class TaskList;
 class TopBar;
 
+// Each slot owns its object; the shutdown table empties them in its order.
 struct AddonSlots {
-  AddonEnvironment* environment = nullptr;
-  HWND bar = nullptr;
-  QuickFind* quickFind = nullptr;
-  HelpFile* helpFile = nullptr;
-  SourceScanner* navigation = nullptr;
-  CompletionEngine* completion = nullptr;
-  ServiceHolder<IIdeEditor>* editor = nullptr;
-  ServiceHolder<IIdeStatusLine>* statusLine = nullptr;
-  Tableau<Tool>* tools = nullptr;
-  ProjectTestA* projectClients = nullptr;
-  ServiceHolder<IIdeNodeOptions>* options = nullptr;
-  Mail* mail = nullptr;
-  TaskList* tasks = nullptr;
-  MakeSequence* makeSequence = nullptr;
-  Delivery* delivery = nullptr;
-  DelivTool* delivTool = nullptr;  // one reference ours; the tool service holds another while registered
-  HookSet* hooks = nullptr;
-  RecentFiles* recentFiles = nullptr;
-  TopBar* topBar = nullptr;
-  GeneralBehaviours* general = nullptr;
-  GroupwareSettings* groupware = nullptr;
-  IMpdChapterAddon* chapter = nullptr;  // one reference ours; the options service holds another
+  std::unique_ptr<AddonEnvironment> environment;
+  HWND bar = nullptr;  // destroyed by the shutdown table, before the classes go
+  std::unique_ptr<QuickFind> quickFind;
+  std::unique_ptr<HelpFile> helpFile;
+  std::unique_ptr<SourceScanner> navigation;
+  std::unique_ptr<CompletionEngine> completion;
+  std::unique_ptr<ServiceHolder<IIdeEditor>> editor;
+  std::unique_ptr<ServiceHolder<IIdeStatusLine>> statusLine;
+  std::unique_ptr<Tableau<Tool>> tools;
+  std::unique_ptr<ProjectTestA> projectClients;
+  std::unique_ptr<ServiceHolder<IIdeNodeOptions>> options;
+  std::unique_ptr<Mail> mail;
+  std::unique_ptr<TaskList> tasks;
+  std::unique_ptr<MakeSequence> makeSequence;
+  std::unique_ptr<Delivery> delivery;
+  IdeRef<DelivTool> delivTool;  // our reference; the tool service holds another while registered
+  std::unique_ptr<HookSet> hooks;
+  std::unique_ptr<RecentFiles> recentFiles;
+  std::unique_ptr<TopBar> topBar;
+  std::unique_ptr<GeneralBehaviours> general;
+  std::unique_ptr<GroupwareSettings> groupware;
+  IdeRef<IMpdChapterAddon> chapter;  // our reference; the options service holds another
+
+  AddonSlots();
+  ~AddonSlots();
+  AddonSlots(const AddonSlots&) = delete;
+  AddonSlots& operator=(const AddonSlots&) = delete;
 };
 
 AddonSlots& addon();

@@ -30,13 +30,13 @@ HINSTANCE instance() { return addon().environment ? addon().environment->instanc
 // options page keep in step with the open project; null without a project.
 const GroupwareSettings* groupwareOfProject() {
   if (!addon().groupware || !addon().mail || !openProjectOptions()) return nullptr;
-  return addon().groupware;
+  return addon().groupware.get();
 }
 
 }  // namespace
 
 void taskCommand(UINT id) {
-  TaskList* tasks = addon().tasks;
+  TaskList* tasks = addon().tasks.get();
   const std::string projectFile = ideHost().projectFile();
   if (!tasks || projectFile.empty()) return;
   if (id == kTaskListCommand) {

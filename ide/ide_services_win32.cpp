@@ -9,7 +9,7 @@
 namespace {
 
 template <typename Interface>
-Interface* held(ServiceHolder<Interface>* holder) {
+Interface* held(const std::unique_ptr<ServiceHolder<Interface>>& holder) {
   return holder ? holder->get() : nullptr;
 }
 

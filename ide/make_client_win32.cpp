@@ -7,8 +7,19 @@
 #include "win32/ide_access_win32.h"
 
 namespace {
-IIdeMake* gMakeService = nullptr;
-MakeClient* gMakeClient = nullptr;
+
+struct MakeRegistration {
+  IdeRef<IIdeMake> service;
+  IdeRef<MakeClient> client;
+};
+
+// Never destroyed, as the add-on's slots: unregisterMakeClient empties it, and
+// an unload without a shutdown must not call into an IDE that may be gone.
+MakeRegistration& registration() {
+  static MakeRegistration& registration = *new MakeRegistration();
+  return registration;
+}
+
 }  // namespace
 
 MakeClient::MakeClient(std::function<void()> started, std::function<void(bool)> ended)
@@ -23,25 +34,28 @@ void __stdcall MakeClient::MakeEnded(BOOL succeeded) {
 }
 
 void registerMakeClient(const MakeClientFactory& create) {
-  gMakeService = getService<IIdeMake>(ide_iid::kMake);
-  if (!gMakeService) {
+  IdeRef<IIdeMake>& service = registration().service;
+  IdeRef<MakeClient>& client = registration().client;
+  service.reset(getService<IIdeMake>(ide_iid::kMake));
+  if (!service) {
     alert("Creation SMK impossible", "Erreur");
     return;
   }
-  gMakeClient = create();
-  if (!gMakeClient) {
+  client.reset(create());
+  if (!client) {
     alert("Creation CMK impossible", "Erreur");
     return;
   }
-  gMakeClient->AddRef();
-  gMakeService->AddClient(gMakeClient);
+  // The service takes a reference of its own.
+  client->AddRef();
+  service->AddClient(client.get());
 }
 
 void unregisterMakeClient() {
+  IdeRef<IIdeMake>& service = registration().service;
+  IdeRef<MakeClient>& client = registration().client;
   // The service drops the reference it was given; ours goes last.
-  if (gMakeClient && gMakeService) gMakeService->RemoveClient(gMakeClient);
-  if (gMakeClient) gMakeClient->Release();
-  gMakeClient = nullptr;
-  if (gMakeService) gMakeService->Release();
-  gMakeService = nullptr;
+  if (client && service) service->RemoveClient(client.get());
+  client.reset();
+  service.reset();
 }

@@ -51,7 +51,7 @@ void openHit(HWND bar, const QuickHit& hit) {
 }  // namespace
 
 TitleBarOptions addonTitleBarOptions() {
-  const AddonEnvironment* environment = addon().environment;
+  const AddonEnvironment* environment = addon().environment.get();
   return {environment ? environment->instance : nullptr, environment && environment->newShell != 0,
           addon().quickFind && addon().quickFind->settings().leftSide};
 }
@@ -63,8 +63,8 @@ bool paintButtonsCommand(HWND, UINT, LPARAM editor) {
 }
 
 bool titleBarPopupCommand(HWND bar, UINT id, LPARAM) {
-  SourceScanner* scanner = addon().navigation;
-  QuickFind* quickFind = addon().quickFind;
+  SourceScanner* scanner = addon().navigation.get();
+  QuickFind* quickFind = addon().quickFind.get();
   if (!scanner || !quickFind) return false;
   MenuModel menu;
   POINT at = target().popup;
@@ -111,7 +111,7 @@ bool includeChosenCommand(HWND, UINT id, LPARAM) {
 bool quickFindCommand(HWND bar, UINT id, LPARAM) {
   static const char* const kTitles[] = {"Find as function...", "Find as method...", "Find as class ...",
                                         "Cross reference ..."};
-  QuickFind* quickFind = addon().quickFind;
+  QuickFind* quickFind = addon().quickFind.get();
   if (!quickFind || !addon().environment) return true;
   const UINT command = id - kFindFunctionId;
   const std::string text = promptSearchText(addon().environment->instance, bar, target().window, kTitles[command],

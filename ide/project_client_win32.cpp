@@ -133,33 +133,26 @@ void __stdcall ProjectClient2Impl::ProjectSaving() { saveProjectOptions(); }
 ProjectTestA::~ProjectTestA() { unregisterClients(); }
 
 void ProjectTestA::registerClients() {
-  project_ = getService<IIdeProject>(ide_iid::kProject);
-  projectSave_ = getService<IIdeProjectSave>(ide_iid::kProjectSave);
-  if (project_ && (client_ = new (std::nothrow) ProjectClientImpl())) {
+  project_.reset(getService<IIdeProject>(ide_iid::kProject));
+  projectSave_.reset(getService<IIdeProjectSave>(ide_iid::kProjectSave));
+  // Each service takes a reference of its own.
+  if (project_ && (client_.reset(new (std::nothrow) ProjectClientImpl()), client_)) {
     client_->AddRef();
-    project_->AddClient(client_);
+    project_->AddClient(client_.get());
   }
-  if (projectSave_ && (saveClient_ = new (std::nothrow) ProjectClient2Impl())) {
+  if (projectSave_ && (saveClient_.reset(new (std::nothrow) ProjectClient2Impl()), saveClient_)) {
     saveClient_->AddRef();
-    projectSave_->AddClient(saveClient_);
+    projectSave_->AddClient(saveClient_.get());
   }
 }
 
 void ProjectTestA::unregisterClients() {
   // Each service drops the reference it was given; ours goes last.
-  if (client_) {
-    if (project_) project_->RemoveClient(client_);
-    client_->Release();
-    client_ = nullptr;
-  }
-  if (saveClient_) {
-    if (projectSave_) projectSave_->RemoveClient(saveClient_);
-    saveClient_->Release();
-    saveClient_ = nullptr;
-  }
-  if (project_) project_->Release();
-  if (projectSave_) projectSave_->Release();
-  project_ = nullptr;
-  projectSave_ = nullptr;
+  if (client_ && project_) project_->RemoveClient(client_.get());
+  if (saveClient_ && projectSave_) projectSave_->RemoveClient(saveClient_.get());
+  client_.reset();
+  saveClient_.reset();
+  project_.reset();
+  projectSave_.reset();
   projectSession().close();
 }

@@ -2,6 +2,7 @@
 // is saved, and where it keeps the options that belong to the open project.
 #pragma once
 
+#include "win32/ide_access_win32.h"
 #include "win32/ide_api_win32.h"
 #include "project/project_options.h"
 
@@ -33,10 +34,10 @@ class ProjectTestA {
   virtual void unregisterClients();
 
  private:
-  IIdeProject* project_ = nullptr;
-  IIdeProjectSave* projectSave_ = nullptr;
-  ProjectClientImpl* client_ = nullptr;
-  ProjectClient2Impl* saveClient_ = nullptr;
+  IdeRef<IIdeProject> project_;
+  IdeRef<IIdeProjectSave> projectSave_;
+  IdeRef<ProjectClientImpl> client_;
+  IdeRef<ProjectClient2Impl> saveClient_;
 };
 
 // The options of the open project, as read when it opened; null when none is open.

@@ -42,6 +42,12 @@ class IdeRef {
   Interface* get() const { return pointer_; }
   Interface* operator->() const { return pointer_; }
   explicit operator bool() const { return pointer_ != nullptr; }
+  // Takes pointer's reference in place of the one held, which is released.
+  void reset(Interface* pointer = nullptr) {
+    Interface* old = pointer_;
+    pointer_ = pointer;
+    if (old) old->Release();
+  }
 
  private:
   Interface* pointer_;

@@ -19,15 +19,14 @@ class IdeServicesTest : public ::testing::Test {
   void SetUp() override {
     ide_.AddRef();
     storeIdePointer(&ide_);
-    addon().editor = new ServiceHolder<IIdeEditor>(ide_iid::kEditor);
-    addon().statusLine = new ServiceHolder<IIdeStatusLine>(ide_iid::kStatusLine);
-    addon().options = new ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions);
+    addon().editor.reset(new ServiceHolder<IIdeEditor>(ide_iid::kEditor));
+    addon().statusLine.reset(new ServiceHolder<IIdeStatusLine>(ide_iid::kStatusLine));
+    addon().options.reset(new ServiceHolder<IIdeNodeOptions>(ide_iid::kNodeOptions));
   }
   void TearDown() override {
-    delete addon().editor;
-    delete addon().statusLine;
-    delete addon().options;
-    addon() = AddonSlots();
+    addon().editor.reset();
+    addon().statusLine.reset();
+    addon().options.reset();
     releaseIdePointer();
     EXPECT_EQ(ide_.referencesHeld(), 0);
     EXPECT_EQ(TestIde::liveStrings, 0);

@@ -18,7 +18,8 @@ class CompletionEngineTest : public ::testing::Test {
   void loadKeywords(const std::string& text) {
     dir_.write("words.kwd", text);
     engine_.files = {dir_.file("words.kwd")};
-    engine_.load();
+    std::string err;
+    ASSERT_TRUE(engine_.load(&err)) << err;
   }
   std::string complete(const std::string& prefix, CompletionMatch expected) {
     std::string text;
@@ -90,7 +91,9 @@ TEST_F(CompletionEngineTest, LoadsListedFilesInByteOrderAndSkipsUnreadableOnes) 
   dir_.write("b.kwd", "same|from b\n\xe9t\xe9\nZeta\n");
   dir_.write("a.kwd", "same|from a\nzeta\n");
   engine_.files = {dir_.file("b.kwd"), dir_.file("missing.kwd"), dir_.file("a.kwd")};
-  engine_.load();
+  std::string err;
+  EXPECT_FALSE(engine_.load(&err));
+  EXPECT_NE(err.find("missing.kwd"), std::string::npos) << "the skipped file is named: " << err;
   ASSERT_EQ(engine_.keywordCount(), 5u);
   std::vector<std::string> order;
   for (size_t i = 0; i < engine_.keywordCount(); ++i) order.push_back(std::string(engine_.keyword(i).keyword));

@@ -27,6 +27,18 @@ class QuickAddTest : public ::testing::Test {
   std::string lastBox() const { return alerts.boxes.empty() ? "" : alerts.boxes.back().text; }
 };
 
+TEST_F(QuickAddTest, TheTreeReadAgainWhileTheDialogIsUpStillGetsTheNodeBesideTheCurrentOne) {
+  QuickAddPresenter presenter(host, host.root, node("frame.cpp"));
+  // The host builds its tree anew: every node moves, as in the add-on.
+  ProjectNode reread = host.root;
+  host.root.nodes.clear();
+  host.root.nodes.shrink_to_fit();
+  host.root = reread;
+  presenter.name = "view";
+  ASSERT_TRUE(presenter.ok());
+  EXPECT_EQ(children("gui"), (std::vector<std::string>{"frame.cpp .cpp", "view.cpp "}));
+}
+
 TEST_F(QuickAddTest, NameWithoutAnyDotBecomesACppSourceBesideTheCurrentNode) {
   for (const char* typed : {"util", "util.h", ".profile"}) {
     QuickAddPresenter presenter(host, host.root, node("main.cpp"));
