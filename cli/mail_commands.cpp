@@ -6,7 +6,9 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "delivery/mail_page.h"
+#include "project/project_files.h"
 
 namespace {
 
@@ -59,8 +61,13 @@ void send(CliSession& session, const MailArguments& args) {
   Mail mail;
   mail.loadSettings();
   loadRecipientsFromProject(mail, *session.project());
+  if (!args.include.empty() && !readableFileArgument(session, args.include)) return;
   std::string body(std::istreambuf_iterator<char>(std::cin), {});
-  if (!mail.send(session.host(), args.subject, body, args.include)) {
+  // The mail consumes the file it includes, which is right for the project's
+  // own notes only: any other file is the user's, so its lines go in the body.
+  const bool notes = absolutePath(args.include) == notificationFilePath(session.project()->path());
+  const std::string note = notes ? body : buildMailNote(body, args.include);
+  if (!mail.send(session.host(), args.subject, note, notes ? args.include : std::string())) {
     reportError("the mail was not sent");
     session.exitStatus = kExitNothing;
   }
@@ -104,6 +111,7 @@ void installMailCommands(CLI::App& command, CliSession& session) {
   CLI::App* sendCommand = command.add_subcommand("send", "Mail standard input to the project's recipients");
   sendCommand->add_option("subject", args->subject, "Subject")->required();
   sendCommand->add_option("--include", args->include,
-                          "A text file whose lines follow the body; deleted once the mail is sent");
+                          "A text file whose lines follow the body; the project's own notes file "
+                          "(NAME.kpj.tsk.txt) is deleted once the mail is sent, any other is kept");
   sendCommand->callback([&session, args] { send(session, *args); });
 }

@@ -13,6 +13,7 @@ A case folder holds:
   stderr    expected standard error (default: empty)
   status    expected exit status (default: 0)
   after/    files expected in the directory afterwards, compared byte for byte
+  gone      paths that must not exist afterwards, one per line
 The temporary directory's path is written @TMP@ in every expected text, and the
 settings file is @TMP@/settings.reg unless env says otherwise.
 """
@@ -72,6 +73,9 @@ def main():
                 expected_path = os.path.join(root, name)
                 relative = os.path.relpath(expected_path, after)
                 check("file " + relative, read(os.path.join(tmp, relative), b"<missing>"), read(expected_path))
+        for relative in read(os.path.join(case, "gone")).decode().splitlines():
+            if relative and os.path.lexists(os.path.join(tmp, relative)):
+                failures.append("file %s should not exist" % relative)
     if failures:
         print("case %s failed; to reproduce: cd into a copy of %s/setup and run %s %s" %
               (case, case, kesto, " ".join(args)))
