@@ -6,6 +6,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
 #include "cli/file_arguments.h"
 #include "delivery/mail_page.h"
 #include "project/project_files.h"
@@ -87,7 +88,7 @@ void installMailCommands(CLI::App& command, CliSession& session) {
 
   CLI::App* add = recipients->add_subcommand("add", "Add a recipient (a name or an address), at the end or after ROW");
   add->add_option("recipient", args->recipient, "Name or address (299 characters kept)")->required();
-  add->add_option("--after", args->row, "Row to insert after, from 0");
+  addIntegerOption(*add, "--after", args->row, "Row to insert after, from 0", 0);
   add->callback([&session, args] {
     editRecipients(session, [&session, args](MailPagePresenter& page) {
       int32_t after = args->row >= 0 ? args->row : static_cast<int32_t>(page.rows.size()) - 1;
@@ -99,7 +100,7 @@ void installMailCommands(CLI::App& command, CliSession& session) {
   });
 
   CLI::App* remove = recipients->add_subcommand("remove", "Remove the recipient of ROW");
-  remove->add_option("row", args->row, "Row, from 0")->required();
+  addIntegerOption(*remove, "row", args->row, "Row, from 0", 0)->required();
   remove->callback([&session, args] {
     editRecipients(session, [&session, args](MailPagePresenter& page) {
       if (!selectRecipient(session, page, args->row)) return false;

@@ -4,12 +4,12 @@
 
 #include <cstdio>
 #include <iostream>
-#include <limits>
 #include <map>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
 #include "foundation/menu_model.h"
 #include "foundation/os.h"
 #include "navigation/include_search.h"
@@ -135,9 +135,7 @@ void installFunctionsCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<NavigationArguments>();
   command.add_option("file", args->file, "Source file to scan")->required();
   command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
-  // The bounds are given as integers so that the range error names them in plain numbers.
-  command.add_option("--size", args->size, "Items per menu column (default: the Menus setting Size)")
-      ->check(CLI::Range(int32_t{1}, std::numeric_limits<int32_t>::max()));
+  addIntegerOption(command, "--size", args->size, "Items per menu column (default: the Menus setting Size)", 1);
   command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
   command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
   command.callback([&session, args] { listFunctions(session, *args); });

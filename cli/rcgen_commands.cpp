@@ -5,6 +5,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
 #include "foundation/os.h"
 #include "rcgen/rc_generator.h"
 
@@ -80,6 +81,6 @@ void installRcgenCommand(CLI::App& command, CliSession& session) {
 void installStampCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<RcgenArguments>();
   addDirectoryArgument(command, args.get());
-  command.add_option("--build", args->build, "Build counter before the run, which adds 1 (default: 0)");
+  addIntegerOption(command, "--build", args->build, "Build counter before the run, which adds 1 (default: 0)", 0);
   command.callback([&session, args] { stamp(session, *args); });
 }

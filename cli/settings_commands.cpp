@@ -4,6 +4,8 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
+#include "cli/known_settings.h"
 #include "foundation/settings.h"
 
 namespace {
@@ -36,6 +38,13 @@ void get(CliSession& session, const SettingsArguments& args) {
 }
 
 void set(CliSession& session, const SettingsArguments& args) {
+  // A setting the add-on reads as an integer would read another text as its default.
+  const KnownSetting* known = findKnownSetting(args.section, args.name);
+  if (known && known->integer && !isDecimalInt32(args.value)) {
+    reportError(args.section + "/" + args.name + " takes an integer; " + args.value + " is not one");
+    session.exitStatus = kExitUsage;
+    return;
+  }
   if (!settings().writeString(args.section, args.name, args.value)) {
     reportError("cannot write " + args.section + "/" + args.name + ": " + session.settingsFile().error());
     session.exitStatus = kExitNothing;
