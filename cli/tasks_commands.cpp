@@ -203,7 +203,9 @@ std::function<void()> withTasks(CliSession& session, Action action) {
 }
 
 void list(TaskSession& session) {
-  for (const std::string& row : session.presenter().rows()) std::cout << row << '\n';
+  // The row number first: the one that edit and remove take.
+  const std::vector<std::string>& rows = session.presenter().rows();
+  for (size_t row = 0; row < rows.size(); ++row) std::cout << row << '\t' << rows[row] << '\n';
   if (session.presenter().rows().empty()) session.cli().exitStatus = kExitNothing;
 }
 
@@ -257,6 +259,7 @@ void flash(TaskSession& session, const TaskArguments& args) {
 
 void installTasksCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<TaskArguments>();
+  command.footer("Prints ROW<TAB>NAME<TAB>TYPE<TAB>STATE<TAB>PRIORITY<TAB>START<TAB>END per task.");
   command.callback([&command, &session] {
     if (command.get_subcommands().empty()) withTasks(session, list)();
   });
