@@ -5,6 +5,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "cli/html_site.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
@@ -36,6 +37,7 @@ void generate(CliSession& session, const HtmlArguments& args) {
     if (filters.empty()) filters = readProjectOptions(*session.project(), 0).htmlFilters;
     if (name.empty()) name = htProjectName(session.project()->path());
   } else {
+    if (!readableDirectoryArgument(session, directory)) return;
     if (filters.empty()) settings().readString("HTML", "Filters", &filters, "*.cpp;*.cc;*.c;*.h;*.rh");
     if (name.empty()) name = directoryName(directory);
   }
@@ -78,8 +80,7 @@ bool writeHtmlSite(CliSession& session, const std::string& directory, const std:
 
 void installHtmlCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<HtmlArguments>();
-  command.add_option("--dir", args->directory, "Document this directory instead of the project's")
-      ->check(CLI::ExistingDirectory);
+  command.add_option("--dir", args->directory, "Document this directory instead of the project's");
   command.add_option("--filters", args->filters,
                      "File patterns separated by ';' (default: the project's, or the HTML/Filters setting)");
   command.add_option("--name", args->name,

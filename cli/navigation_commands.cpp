@@ -9,9 +9,9 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "cli/integer_options.h"
 #include "foundation/menu_model.h"
-#include "foundation/os.h"
 #include "navigation/include_search.h"
 #include "navigation/navigation_menus.h"
 #include "navigation/quickfind.h"
@@ -30,18 +30,10 @@ struct NavigationArguments {
   bool menu = false;
 };
 
-// A FIFO, device or socket named as the file to scan is refused by name: the
-// scan would read it as an empty file.
-bool scannable(CliSession& session, const std::string& file) {
-  FileAttributes attributes;
-  if (!os().attributes(file, &attributes, nullptr) || !attributes.isSpecial) return true;
-  reportError(file + ": not a regular file");
-  session.exitStatus = kExitNothing;
-  return false;
-}
-
+// The scanner reads a file it cannot open as an empty one, which would say
+// "nothing detected" of a file that was never read.
 void listFunctions(CliSession& session, const NavigationArguments& args) {
-  if (!scannable(session, args.file)) return;
+  if (!readableFileArgument(session, args.file)) return;
   SourceScanner scanner;
   if (args.unsorted) scanner.settings().sorted = false;
   if (args.size > 0) scanner.settings().size = args.size;
@@ -63,7 +55,7 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
 }
 
 void listIncludes(CliSession& session, const NavigationArguments& args) {
-  if (!scannable(session, args.file)) return;
+  if (!readableFileArgument(session, args.file)) return;
   SourceScanner scanner;
   MenuModel menu;
   if (!scanner.includesMenu(session.host(), args.file, &menu)) {
@@ -74,8 +66,13 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
   for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
 }
 
+// A --from file that cannot be read would give the search paths of no node.
+bool readableFrom(CliSession& session, const NavigationArguments& args) {
+  return args.from.empty() || readableFileArgument(session, args.from);
+}
+
 void locateInclude(CliSession& session, const NavigationArguments& args) {
-  if (!session.openProject()) return;
+  if (!readableFrom(session, args) || !session.openProject()) return;
   std::string path;
   if (findInclude(session.host(), args.name, args.from, &path))
     std::cout << path << '\n';
@@ -103,7 +100,7 @@ bool searchable(CliSession& session, const std::string& name) {
 
 void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
   const std::string& name = args.name;
-  if (!searchable(session, name)) return;
+  if (!readableFrom(session, args) || !searchable(session, name)) return;
   QuickFind quickFind;
   QuickHit hit;
   bool found = false;

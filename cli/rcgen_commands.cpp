@@ -5,8 +5,8 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "cli/integer_options.h"
-#include "foundation/os.h"
 #include "rcgen/rc_generator.h"
 
 namespace {
@@ -23,12 +23,7 @@ bool chooseDirectory(CliSession& session, const RcgenArguments& args, std::strin
     *directory = session.projectDirectory();
     return true;
   }
-  FileAttributes attributes;
-  if (!os().attributes(args.directory, &attributes, nullptr) || !attributes.isDirectory) {
-    reportError(args.directory + " is not a directory");
-    session.exitStatus = kExitUsage;
-    return false;
-  }
+  if (!readableDirectoryArgument(session, args.directory)) return false;
   *directory = args.directory;
   return true;
 }
