@@ -66,13 +66,8 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
   for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
 }
 
-// A --from file that cannot be read would give the search paths of no node.
-bool readableFrom(CliSession& session, const NavigationArguments& args) {
-  return args.from.empty() || readableFileArgument(session, args.from);
-}
-
 void locateInclude(CliSession& session, const NavigationArguments& args) {
-  if (!readableFrom(session, args) || !session.openProject()) return;
+  if (!session.openProject()) return;
   std::string path;
   if (findInclude(session.host(), args.name, args.from, &path))
     std::cout << path << '\n';
@@ -100,7 +95,7 @@ bool searchable(CliSession& session, const std::string& name) {
 
 void findDefinition(CliSession& session, const NavigationArguments& args, QuickCommand command) {
   const std::string& name = args.name;
-  if (!readableFrom(session, args) || !searchable(session, name)) return;
+  if (!searchable(session, name)) return;
   QuickFind quickFind;
   QuickHit hit;
   bool found = false;
