@@ -1,8 +1,10 @@
 // Host services on a terminal: status texts on standard error, messages on standard output.
 #include "cli/cli_host.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <iostream>
@@ -11,9 +13,35 @@
 #include "cli/sendmail_transport.h"
 #include "foundation/os.h"
 
+namespace {
+
+// Both streams on the same terminal: what goes to one shows beside the other.
+bool oneTerminal() {
+  struct stat out;
+  struct stat err;
+  return isatty(STDOUT_FILENO) && isatty(STDERR_FILENO) && fstat(STDOUT_FILENO, &out) == 0 &&
+         fstat(STDERR_FILENO, &err) == 0 && out.st_rdev == err.st_rdev;
+}
+
+}  // namespace
+
 void CliHost::showStatus(const std::string& text) {
+  if (holding_) {
+    held_.push_back(text);
+    return;
+  }
   if (progress_) progress_->interrupt();
   std::cerr << text << '\n';
+}
+
+void CliHost::holdStatus() { holding_ = oneTerminal(); }
+
+void CliHost::releaseStatus(const std::vector<std::string>& results) {
+  holding_ = false;
+  std::vector<std::string> held;
+  held.swap(held_);
+  for (const std::string& text : held)
+    if (std::find(results.begin(), results.end(), text) == results.end()) showStatus(text);
 }
 
 // A terminal has no use for the IDE's beeps: the status text says it all.
@@ -31,6 +59,7 @@ void CliHost::endProgress() { progress_.reset(); }
 Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, const std::string& text) {
   if (progress_) progress_->interrupt();
   std::cout << text << '\n';
+  if (oneTerminal()) messages_.insert(text);
   return ++lastMessage_;
 }
 
@@ -79,7 +108,7 @@ MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
 int CliHost::show(const std::string& text, const std::string& caption, unsigned style) {
   bool question = (style & 0xF) == kAlertYesNo || (style & 0xF) == kAlertOkCancel;
   if (!question) {
-    std::cerr << caption << ": " << text << '\n';
+    if (messages_.count(text) == 0) std::cerr << caption << ": " << text << '\n';
     return kAnswerOk;
   }
   int yes = (style & 0xF) == kAlertYesNo ? kAnswerYes : kAnswerOk;

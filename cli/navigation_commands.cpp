@@ -69,7 +69,11 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
 void locateInclude(CliSession& session, const NavigationArguments& args) {
   if (!session.openProject()) return;
   std::string path;
-  if (findInclude(session.host(), args.name, args.from, &path))
+  session.host().holdStatus();
+  bool found = findInclude(session.host(), args.name, args.from, &path);
+  // The status line of a hit is the path itself.
+  session.host().releaseStatus({path});
+  if (found)
     std::cout << path << '\n';
   else
     session.exitStatus = kExitNothing;
@@ -104,8 +108,11 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
     const Tableau<QuickResu>& results = quickFind.methodResults();
     for (int32_t i = 0; i < results.count(); ++i) printHit(results[i]->file(), results[i]->line(), results[i]->text());
   } else {
+    session.host().holdStatus();
     found = command == kQuickFunction ? quickFind.findFunction(session.host(), name, args.from, &hit)
                                       : quickFind.findClass(session.host(), name, args.from, &hit);
+    // The status line of a hit names its place as "PATH : LINE".
+    session.host().releaseStatus({hit.file + " : " + std::to_string(hit.line)});
     if (found) printHit(hit.file, hit.line, hit.text);
   }
   if (!found) session.exitStatus = kExitNothing;
