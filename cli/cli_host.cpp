@@ -23,6 +23,18 @@ bool oneTerminal() {
          fstat(STDERR_FILENO, &err) == 0 && out.st_rdev == err.st_rdev;
 }
 
+// The add-on's mail goes through MAPI; kesto's through the mail program.
+std::string inTermsOfTheMailProgram(const std::string& text) {
+  static const std::pair<const char*, const char*> kTexts[] = {
+      {"MAPI not present !", "Mail program not found !"},
+      {"MAPI not available !", "Mail program not available !"},
+      {"MAPI SendMail missed !", "The mail program did not send the mail !"},
+  };
+  for (const auto& [mapi, program] : kTexts)
+    if (text == mapi) return program;
+  return text;
+}
+
 }  // namespace
 
 void CliHost::showStatus(const std::string& text) {
@@ -96,6 +108,19 @@ const ProjectNode* CliHost::addProjectNode(const ProjectNode& parent, const std:
 int CliHost::runTool(const std::string&, const std::string&) { return -1; }
 
 MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
+  // Checked before anything goes: the mail program would send to nobody, or
+  // take a name for a local mailbox.
+  if (message.recipients.empty()) {
+    if (err) *err = "no recipient: the mail is not sent (kesto mail recipients add ADDRESS)";
+    return MailResult::Failed;
+  }
+  for (const std::string& recipient : message.recipients) {
+    if (!isMailAddress(recipient)) {
+      if (err)
+        *err = "recipient \"" + recipient + "\" is no mail address (write name@host or Name <name@host>): the mail is not sent";
+      return MailResult::Failed;
+    }
+  }
   std::string text = composeInternetMessage(message, os().userName(), std::time(nullptr));
   // The mail dialog of a terminal: the message itself, and a question.
   if (message.showDialog && show(text + "\nSend this mail ?", "Mail", kAlertYesNo | kAlertIconQuestion) != kAnswerYes) {
@@ -105,7 +130,8 @@ MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
   return runSendmail(sendmailCommand(), text, err);
 }
 
-int CliHost::show(const std::string& text, const std::string& caption, unsigned style) {
+int CliHost::show(const std::string& shownText, const std::string& caption, unsigned style) {
+  const std::string text = inTermsOfTheMailProgram(shownText);
   bool question = (style & 0xF) == kAlertYesNo || (style & 0xF) == kAlertOkCancel;
   if (!question) {
     if (messages_.count(text) == 0) std::cerr << caption << ": " << text << '\n';

@@ -90,6 +90,11 @@ void installMailCommands(CLI::App& command, CliSession& session) {
   add->add_option("recipient", args->recipient, "Name or address (299 characters kept)")->required();
   addIntegerOption(*add, "--after", args->row, "Row to insert after, from 0", 0);
   add->callback([&session, args] {
+    if (args->recipient.find_first_not_of(" \t") == std::string::npos) {
+      reportError("a recipient needs an address: name@host or Name <name@host>");
+      session.exitStatus = kExitUsage;
+      return;
+    }
     editRecipients(session, [&session, args](MailPagePresenter& page) {
       int32_t after = args->row >= 0 ? args->row : static_cast<int32_t>(page.rows.size()) - 1;
       if (after >= 0 && !selectRecipient(session, page, after)) return false;
