@@ -9,6 +9,7 @@
 #include <cerrno>
 
 #include "foundation/settings.h"
+#include "foundation/text_encoding.h"
 
 namespace {
 
@@ -57,13 +58,9 @@ std::string headerText(const std::string& text) {
   return out;
 }
 
-// Lone line feeds become CR LF; CR LF pairs stay.
+// Lone line feeds become CR LF; CR LF pairs stay; the last line gets its end.
 std::string crLfLines(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
-    out += text[i];
-  }
+  std::string out = withCrLfLines(text);
   if (!out.empty() && out.back() != '\n') out += "\r\n";
   return out;
 }

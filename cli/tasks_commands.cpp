@@ -9,6 +9,7 @@
 #include "cli/command_table.h"
 #include "cli/integer_options.h"
 #include "delivery/mail.h"
+#include "foundation/text_encoding.h"
 #include "tasks/date_entry.h"
 #include "tasks/flash.h"
 #include "project/project_files.h"
@@ -103,16 +104,6 @@ class TaskSession {
   std::unique_ptr<TaskListPresenter> presenter_;
 };
 
-// Line feeds typed on a command line become the CR LF of the dialog's edit control.
-std::string dialogLines(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
-    out += text[i];
-  }
-  return out;
-}
-
 // The report's CR LF lines printed as the terminal's lines.
 void printReport(const std::string& report) {
   std::string out;
@@ -142,7 +133,8 @@ void applyFields(TaskSession& session, const TaskArguments& args) {
   edit.readEnd = false;
   edit.startDate = args.startDate;
   edit.endDate = args.endDate;
-  if (given(args.textOption)) edit.text = dialogLines(args.text);
+  // Line feeds typed on a command line become the CR LF of the dialog's edit control.
+  if (given(args.textOption)) edit.text = withCrLfLines(args.text);
   if (args.makePublic) edit.isPublic = true;
   if (args.makePrivate) edit.isPublic = false;
   if (!session.presenter().apply()) session.cli().exitStatus = kExitNothing;
