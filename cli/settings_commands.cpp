@@ -1,4 +1,5 @@
 // kesto settings get|set|list: the settings store from the command line.
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 
@@ -6,6 +7,7 @@
 #include "cli/command_table.h"
 #include "cli/integer_options.h"
 #include "cli/known_settings.h"
+#include "foundation/regedit_text.h"
 #include "foundation/settings.h"
 
 namespace {
@@ -16,6 +18,7 @@ struct SettingsArguments {
   std::string value;
   std::string defaultText;
   bool hasDefault = false;
+  bool all = false;
 };
 
 void printSection(SettingsBackend& backend, const std::string& section, bool withSection) {
@@ -51,7 +54,31 @@ void set(CliSession& session, const SettingsArguments& args) {
   }
 }
 
+// The value the add-on works with: an integer setting whose text is no number reads as its default.
+std::string effectiveValue(const KnownSetting& setting) {
+  if (setting.integer)
+    return std::to_string(settings().readInteger(setting.section, setting.name, std::atoi(setting.fallback)));
+  std::string text;
+  settings().readString(setting.section, setting.name, &text, setting.fallback);
+  return text;
+}
+
+// Every known setting: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default.
+void listKnown(const SettingsArguments& args) {
+  for (const KnownSetting& setting : knownSettings()) {
+    if (!args.section.empty() && foldedCase(args.section) != foldedCase(setting.section)) continue;
+    std::string stored;
+    bool isSet = settings().readString(setting.section, setting.name, &stored, nullptr);
+    std::cout << (args.section.empty() ? std::string(setting.section) + "\t" : "") << setting.name << '\t'
+              << effectiveValue(setting) << '\t' << setting.fallback << '\t' << (isSet ? "set" : "default") << '\n';
+  }
+}
+
 void list(CliSession& session, const SettingsArguments& args) {
+  if (args.all) {
+    listKnown(args);
+    return;
+  }
   SettingsBackend& backend = session.settingsFile();
   if (!args.section.empty()) {
     printSection(backend, args.section, false);
@@ -81,5 +108,7 @@ void installSettingsCommands(CLI::App& command, CliSession& session) {
 
   CLI::App* listCommand = command.add_subcommand("list", "List values: NAME<TAB>TEXT, or SECTION<TAB>NAME<TAB>TEXT");
   listCommand->add_option("section", args->section, "Section (default: every section)");
+  listCommand->add_flag("--all", args->all,
+                        "Every known setting, stored or not: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default");
   listCommand->callback([&session, args] { list(session, *args); });
 }
