@@ -104,7 +104,7 @@ class IgnoredBrokenPipe {
   struct sigaction previous_ {};
 };
 
-bool isAddrSpec(const std::string& text) {
+bool isBareAddress(const std::string& text) {
   size_t at = text.rfind('@');
   if (at == std::string::npos || at == 0 || at + 1 == text.size()) return false;
   for (char c : text)
@@ -115,11 +115,11 @@ bool isAddrSpec(const std::string& text) {
 }  // namespace
 
 bool isMailAddress(const std::string& recipient) {
-  if (isAddrSpec(recipient)) return true;
+  if (isBareAddress(recipient)) return true;
   // "Name <local@domain>"
   size_t open = recipient.rfind('<');
   return open != std::string::npos && recipient.size() > open + 2 && recipient.back() == '>' &&
-         isAddrSpec(recipient.substr(open + 1, recipient.size() - open - 2));
+         isBareAddress(recipient.substr(open + 1, recipient.size() - open - 2));
 }
 
 std::string sendmailCommand() {
