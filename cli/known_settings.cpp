@@ -60,6 +60,7 @@ const std::vector<KnownSetting>& knownSettings() {
       {"Groupware", "MailOnGet", true, "0"},
       {"Groupware", "Filters", false, GroupwareSettings::kDefaultFilters},
       {"HTML", "Filters", false, "*.cpp;*.cc;*.c;*.h;*.rh"},
+      {"Make", "BuildNumber", true, "0"},
   };
   return kSettings;
 }
