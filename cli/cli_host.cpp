@@ -1,8 +1,10 @@
 // Host services on a terminal: status texts on standard error, messages on standard output.
 #include "cli/cli_host.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <iostream>
@@ -11,9 +13,47 @@
 #include "cli/sendmail_transport.h"
 #include "foundation/os.h"
 
+namespace {
+
+// Both streams on the same terminal: what goes to one shows beside the other.
+bool oneTerminal() {
+  struct stat out;
+  struct stat err;
+  return isatty(STDOUT_FILENO) && isatty(STDERR_FILENO) && fstat(STDOUT_FILENO, &out) == 0 &&
+         fstat(STDERR_FILENO, &err) == 0 && out.st_rdev == err.st_rdev;
+}
+
+// The add-on's mail goes through MAPI; kesto's through the mail program.
+std::string inTermsOfTheMailProgram(const std::string& text) {
+  static const std::pair<const char*, const char*> kTexts[] = {
+      {"MAPI not present !", "Mail program not found !"},
+      {"MAPI not available !", "Mail program not available !"},
+      {"MAPI SendMail missed !", "The mail program did not send the mail !"},
+  };
+  for (const auto& [mapi, program] : kTexts)
+    if (text == mapi) return program;
+  return text;
+}
+
+}  // namespace
+
 void CliHost::showStatus(const std::string& text) {
+  if (holding_) {
+    held_.push_back(text);
+    return;
+  }
   if (progress_) progress_->interrupt();
   std::cerr << text << '\n';
+}
+
+void CliHost::holdStatus() { holding_ = oneTerminal(); }
+
+void CliHost::releaseStatus(const std::vector<std::string>& results) {
+  holding_ = false;
+  std::vector<std::string> held;
+  held.swap(held_);
+  for (const std::string& text : held)
+    if (std::find(results.begin(), results.end(), text) == results.end()) showStatus(text);
 }
 
 // A terminal has no use for the IDE's beeps: the status text says it all.
@@ -31,6 +71,7 @@ void CliHost::endProgress() { progress_.reset(); }
 Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, const std::string& text) {
   if (progress_) progress_->interrupt();
   std::cout << text << '\n';
+  if (oneTerminal()) messages_.insert(text);
   return ++lastMessage_;
 }
 
@@ -67,6 +108,19 @@ const ProjectNode* CliHost::addProjectNode(const ProjectNode& parent, const std:
 int CliHost::runTool(const std::string&, const std::string&) { return -1; }
 
 MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
+  // Checked before anything goes: the mail program would send to nobody, or
+  // take a name for a local mailbox.
+  if (message.recipients.empty()) {
+    if (err) *err = "no recipient: the mail is not sent (kesto mail recipients add ADDRESS)";
+    return MailResult::Failed;
+  }
+  for (const std::string& recipient : message.recipients) {
+    if (!isMailAddress(recipient)) {
+      if (err)
+        *err = "recipient \"" + recipient + "\" is no mail address (write name@host or Name <name@host>): the mail is not sent";
+      return MailResult::Failed;
+    }
+  }
   std::string text = composeInternetMessage(message, os().userName(), std::time(nullptr));
   // The mail dialog of a terminal: the message itself, and a question.
   if (message.showDialog && show(text + "\nSend this mail ?", "Mail", kAlertYesNo | kAlertIconQuestion) != kAnswerYes) {
@@ -76,10 +130,11 @@ MailResult CliHost::sendMail(const MailMessage& message, std::string* err) {
   return runSendmail(sendmailCommand(), text, err);
 }
 
-int CliHost::show(const std::string& text, const std::string& caption, unsigned style) {
+int CliHost::show(const std::string& shownText, const std::string& caption, unsigned style) {
+  const std::string text = inTermsOfTheMailProgram(shownText);
   bool question = (style & 0xF) == kAlertYesNo || (style & 0xF) == kAlertOkCancel;
   if (!question) {
-    std::cerr << caption << ": " << text << '\n';
+    if (messages_.count(text) == 0) std::cerr << caption << ": " << text << '\n';
     return kAnswerOk;
   }
   int yes = (style & 0xF) == kAlertYesNo ? kAnswerYes : kAnswerOk;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <set>
 #include <string>
+#include <vector>
 
 #include "cli/progress_bar.h"
 #include "foundation/alert.h"
@@ -38,12 +40,23 @@ class CliHost : public Host, public AlertHandler {
   int runTool(const std::string& tool, const std::string& file) override;
   MailResult sendMail(const MailMessage& message, std::string* err) override;
 
-  // Boxes print "CAPTION: TEXT" on standard error; a question is asked on a
+  // When standard output and standard error are one terminal, a status line
+  // that repeats a result would show it twice. From holdStatus to
+  // releaseStatus, status lines wait; then those equal to one of results are
+  // dropped and the others printed. Elsewhere status lines go out at once.
+  void holdStatus();
+  void releaseStatus(const std::vector<std::string>& results);
+
+  // Boxes print "CAPTION: TEXT" on standard error (on a terminal shared with
+  // standard output, not when a message line already said TEXT); a question is asked on a
   // terminal and otherwise answered by --yes/--no (No when neither was given).
   int show(const std::string& text, const std::string& caption, unsigned style) override;
 
  private:
   KpjProject* project_ = nullptr;
+  bool holding_ = false;
+  std::vector<std::string> held_;
+  std::set<std::string> messages_;  // texts of the message lines, on a shared terminal
   MessageHandle lastMessage_ = 0;
   std::unique_ptr<ProgressBar> progress_;
 };

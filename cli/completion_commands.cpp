@@ -5,6 +5,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
 #include "completion/completion_command.h"
 #include "completion/completion_engine.h"
 #include "completion/keyword_file_commands.h"
@@ -141,9 +142,8 @@ void installCompleteCommands(CLI::App& command, CliSession& session) {
   CLI::Option* word = command.add_option("word", args->word, "Word to complete: prints the text that completes it");
   CLI::Option* line =
       command.add_option("--line", args->line, "Line of text: prints it completed at the caret, then the new column");
-  command.add_option("--column", args->column, "Caret column, from 1 (default: the end of the line)")
-      ->needs(line)
-      ->check(CLI::PositiveNumber);
+  addIntegerOption(command, "--column", args->column, "Caret column, from 1 (default: the end of the line)", 1)
+      ->needs(line);
   word->excludes(line);
   command.callback([&session, args, line, word] {
     if (word->count() == 0 && line->count() == 0) throw CLI::RequiredError("WORD or --line");

@@ -5,6 +5,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "cli/html_site.h"
 #include "foundation/os.h"
 #include "html/ht_generation.h"
@@ -29,6 +30,7 @@ void generate(CliSession& session, const HtmlArguments& args) {
     if (filters.empty()) filters = session.options()->htmlFilters;
     if (name.empty()) name = htProjectName(session.project()->path());
   } else {
+    if (!readableDirectoryArgument(session, directory)) return;
     const HtmlSettings html = HtmlSettings::read(directory);
     if (filters.empty()) filters = html.filters;
     if (name.empty()) name = html.siteName;
@@ -72,8 +74,7 @@ bool writeHtmlSite(CliSession& session, const std::string& directory, const std:
 
 void installHtmlCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<HtmlArguments>();
-  command.add_option("--dir", args->directory, "Document this directory instead of the project's")
-      ->check(CLI::ExistingDirectory);
+  command.add_option("--dir", args->directory, "Document this directory instead of the project's");
   command.add_option("--filters", args->filters,
                      "File patterns separated by ';' (default: the project's, or the HTML/Filters setting)");
   command.add_option("--name", args->name,

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "foundation/os.h"
+#include "foundation/text_encoding.h"
 
 namespace {
 
@@ -131,6 +132,7 @@ bool KpjProject::load(const std::string& path, std::string* err) {
 
 bool KpjProject::parse(const std::string& path, const std::string& text, std::string* err) {
   path_ = path;
+  crLfLines_ = usesCrLfLines(text);
   size_t deep = tooDeepAt(text);
   if (deep != std::string::npos) {
     if (err) *err = path + ":" + position(text, deep) + ": nested deeper than " + std::to_string(kMaxNesting) + " levels";
@@ -221,7 +223,8 @@ bool KpjProject::removeNode(const std::string& name, std::string* err) {
 }
 
 bool KpjProject::save(std::string* err) {
-  return os().writeFileAtomic(path_, document_.dump(2) + "\n", err);
+  const std::string text = document_.dump(2) + "\n";
+  return os().writeFileAtomic(path_, crLfLines_ ? withCrLfLines(text) : text, err);
 }
 
 namespace {

@@ -16,7 +16,7 @@ class KpjProject : public ProjectOptionStore {
   bool load(const std::string& path, std::string* err);
   // Parses text read from path (used by load and the fuzz target).
   bool parse(const std::string& path, const std::string& text, std::string* err);
-  // Rewrites the file atomically.
+  // Rewrites the file atomically, with the line ends it was read with.
   bool save(std::string* err);
 
   // Adds a node as the last child of the first node named parent (the top node
@@ -48,6 +48,7 @@ class KpjProject : public ProjectOptionStore {
   bool readRoot(std::string* err);
 
   std::string path_;
+  bool crLfLines_ = false;  // the file was written with CR LF line ends
   nlohmann::ordered_json document_;
   ProjectNode root_;
 };

@@ -6,7 +6,10 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
+#include "cli/file_arguments.h"
 #include "delivery/mail_page.h"
+#include "project/project_files.h"
 
 namespace {
 
@@ -53,8 +56,13 @@ void listRecipients(CliSession& session) {
 
 void send(CliSession& session, const MailArguments& args) {
   if (!session.requireProject()) return;
+  if (!args.include.empty() && !readableFileArgument(session, args.include)) return;
   std::string body(std::istreambuf_iterator<char>(std::cin), {});
-  if (!session.mail().send(session.host(), args.subject, body, args.include)) {
+  // The mail consumes the file it includes, which is right for the project's
+  // own notes only: any other file is the user's, so its lines go in the body.
+  const bool notes = absolutePath(args.include) == notificationFilePath(session.project()->path());
+  const std::string note = notes ? body : buildMailNote(body, args.include);
+  if (!session.mail().send(session.host(), args.subject, note, notes ? args.include : std::string())) {
     reportError("the mail was not sent");
     session.exitStatus = kExitNothing;
   }
@@ -74,8 +82,13 @@ void installMailCommands(CLI::App& command, CliSession& session) {
 
   CLI::App* add = recipients->add_subcommand("add", "Add a recipient (a name or an address), at the end or after ROW");
   add->add_option("recipient", args->recipient, "Name or address (299 characters kept)")->required();
-  add->add_option("--after", args->row, "Row to insert after, from 0");
+  addIntegerOption(*add, "--after", args->row, "Row to insert after, from 0", 0);
   add->callback([&session, args] {
+    if (args->recipient.find_first_not_of(" \t") == std::string::npos) {
+      reportError("a recipient needs an address: name@host or Name <name@host>");
+      session.exitStatus = kExitUsage;
+      return;
+    }
     editRecipients(session, [&session, args](MailPagePresenter& page) {
       int32_t after = args->row >= 0 ? args->row : static_cast<int32_t>(page.rows.size()) - 1;
       if (after >= 0 && !selectRecipient(session, page, after)) return false;
@@ -86,7 +99,7 @@ void installMailCommands(CLI::App& command, CliSession& session) {
   });
 
   CLI::App* remove = recipients->add_subcommand("remove", "Remove the recipient of ROW");
-  remove->add_option("row", args->row, "Row, from 0")->required();
+  addIntegerOption(*remove, "row", args->row, "Row, from 0", 0)->required();
   remove->callback([&session, args] {
     editRecipients(session, [&session, args](MailPagePresenter& page) {
       if (!selectRecipient(session, page, args->row)) return false;
@@ -98,6 +111,7 @@ void installMailCommands(CLI::App& command, CliSession& session) {
   CLI::App* sendCommand = command.add_subcommand("send", "Mail standard input to the project's recipients");
   sendCommand->add_option("subject", args->subject, "Subject")->required();
   sendCommand->add_option("--include", args->include,
-                          "A text file whose lines follow the body; deleted once the mail is sent");
+                          "A text file whose lines follow the body; the project's own notes file "
+                          "(NAME.kpj.tsk.txt) is deleted once the mail is sent, any other is kept");
   sendCommand->callback([&session, args] { send(session, *args); });
 }

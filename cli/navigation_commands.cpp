@@ -4,14 +4,14 @@
 
 #include <cstdio>
 #include <iostream>
-#include <limits>
 #include <map>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
+#include "cli/integer_options.h"
 #include "foundation/menu_model.h"
-#include "foundation/os.h"
 #include "navigation/include_search.h"
 #include "navigation/navigation_menus.h"
 #include "navigation/quickfind.h"
@@ -30,18 +30,10 @@ struct NavigationArguments {
   bool menu = false;
 };
 
-// A FIFO, device or socket named as the file to scan is refused by name: the
-// scan would read it as an empty file.
-bool scannable(CliSession& session, const std::string& file) {
-  FileAttributes attributes;
-  if (!os().attributes(file, &attributes, nullptr) || !attributes.isSpecial) return true;
-  reportError(file + ": not a regular file");
-  session.exitStatus = kExitNothing;
-  return false;
-}
-
+// The scanner reads a file it cannot open as an empty one, which would say
+// "nothing detected" of a file that was never read.
 void listFunctions(CliSession& session, const NavigationArguments& args) {
-  if (!scannable(session, args.file)) return;
+  if (!readableFileArgument(session, args.file)) return;
   SourceScanner scanner;
   if (args.unsorted) scanner.settings().sorted = false;
   if (args.size > 0) scanner.settings().size = args.size;
@@ -63,7 +55,7 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
 }
 
 void listIncludes(CliSession& session, const NavigationArguments& args) {
-  if (!scannable(session, args.file)) return;
+  if (!readableFileArgument(session, args.file)) return;
   SourceScanner scanner;
   MenuModel menu;
   if (!scanner.includesMenu(session.host(), args.file, &menu)) {
@@ -77,7 +69,11 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
 void locateInclude(CliSession& session, const NavigationArguments& args) {
   if (!session.openProject()) return;
   std::string path;
-  if (findInclude(session.host(), args.name, args.from, &path))
+  session.host().holdStatus();
+  bool found = findInclude(session.host(), args.name, args.from, &path);
+  // The status line of a hit is the path itself.
+  session.host().releaseStatus({path});
+  if (found)
     std::cout << path << '\n';
   else
     session.exitStatus = kExitNothing;
@@ -112,8 +108,11 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
     const Tableau<QuickResu>& results = quickFind.methodResults();
     for (int32_t i = 0; i < results.count(); ++i) printHit(results[i]->file(), results[i]->line(), results[i]->text());
   } else {
+    session.host().holdStatus();
     found = command == kQuickFunction ? quickFind.findFunction(session.host(), name, args.from, &hit)
                                       : quickFind.findClass(session.host(), name, args.from, &hit);
+    // The status line of a hit names its place as "PATH : LINE".
+    session.host().releaseStatus({hit.file + " : " + std::to_string(hit.line)});
     if (found) printHit(hit.file, hit.line, hit.text);
   }
   if (!found) session.exitStatus = kExitNothing;
@@ -135,9 +134,7 @@ void installFunctionsCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<NavigationArguments>();
   command.add_option("file", args->file, "Source file to scan")->required();
   command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
-  // The bounds are given as integers so that the range error names them in plain numbers.
-  command.add_option("--size", args->size, "Items per menu column (default: the Menus setting Size)")
-      ->check(CLI::Range(int32_t{1}, std::numeric_limits<int32_t>::max()));
+  addIntegerOption(command, "--size", args->size, "Items per menu column (default: the Menus setting Size)", 1);
   command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
   command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
   command.callback([&session, args] { listFunctions(session, *args); });

@@ -5,7 +5,8 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
-#include "foundation/os.h"
+#include "cli/file_arguments.h"
+#include "cli/integer_options.h"
 #include "rcgen/rc_generator.h"
 
 namespace {
@@ -22,12 +23,7 @@ bool chooseDirectory(CliSession& session, const RcgenArguments& args, std::strin
     *directory = session.projectDirectory();
     return true;
   }
-  FileAttributes attributes;
-  if (!os().attributes(args.directory, &attributes, nullptr) || !attributes.isDirectory) {
-    reportError(args.directory + " is not a directory");
-    session.exitStatus = kExitUsage;
-    return false;
-  }
+  if (!readableDirectoryArgument(session, args.directory)) return false;
   *directory = args.directory;
   return true;
 }
@@ -80,6 +76,6 @@ void installRcgenCommand(CLI::App& command, CliSession& session) {
 void installStampCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<RcgenArguments>();
   addDirectoryArgument(command, args.get());
-  command.add_option("--build", args->build, "Build counter before the run, which adds 1 (default: 0)");
+  addIntegerOption(command, "--build", args->build, "Build counter before the run, which adds 1 (default: 0)", 0);
   command.callback([&session, args] { stamp(session, *args); });
 }

@@ -5,15 +5,22 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "foundation/settings.h"
+#include "foundation/text_encoding.h"
 
 namespace {
 
-constexpr const char* kCharset = "windows-1252";
-// An encoded word may not pass 75 characters: 17 of them go to "=?windows-1252?B?" and "?=".
-constexpr size_t kBytesPerEncodedWord = 42;
+// What the body is written in on this system: the terminal's and the files' text.
+constexpr const char* kCharset = "UTF-8";
+// An encoded word may not pass 75 characters: 12 of them go to "=?UTF-8?B?" and
+// "?=", which leaves 60 digits of base 64 for 45 bytes.
+constexpr size_t kBytesPerEncodedWord = 45;
+
+// A UTF-8 sequence's second, third or fourth byte.
+bool continuesCharacter(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
 
 std::string base64(const std::string& bytes) {
   static const char kDigits[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
@@ -40,20 +47,20 @@ bool isPlainHeaderText(const std::string& text) {
 std::string headerText(const std::string& text) {
   if (isPlainHeaderText(text)) return text;
   std::string out;
-  for (size_t i = 0; i < text.size(); i += kBytesPerEncodedWord) {
+  for (size_t i = 0; i < text.size();) {
+    // An encoded word holds whole characters only.
+    size_t end = std::min(i + kBytesPerEncodedWord, text.size());
+    while (end < text.size() && end > i + 1 && continuesCharacter(text[end])) --end;
     if (i) out += "\r\n ";
-    out += std::string("=?") + kCharset + "?B?" + base64(text.substr(i, kBytesPerEncodedWord)) + "?=";
+    out += std::string("=?") + kCharset + "?B?" + base64(text.substr(i, end - i)) + "?=";
+    i = end;
   }
   return out;
 }
 
-// Lone line feeds become CR LF; CR LF pairs stay.
+// Lone line feeds become CR LF; CR LF pairs stay; the last line gets its end.
 std::string crLfLines(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
-    out += text[i];
-  }
+  std::string out = withCrLfLines(text);
   if (!out.empty() && out.back() != '\n') out += "\r\n";
   return out;
 }
@@ -97,7 +104,23 @@ class IgnoredBrokenPipe {
   struct sigaction previous_ {};
 };
 
+bool isBareAddress(const std::string& text) {
+  size_t at = text.rfind('@');
+  if (at == std::string::npos || at == 0 || at + 1 == text.size()) return false;
+  for (char c : text)
+    if (static_cast<unsigned char>(c) <= ' ' || c == '<' || c == '>' || c == ',' || c == '"') return false;
+  return true;
+}
+
 }  // namespace
+
+bool isMailAddress(const std::string& recipient) {
+  if (isBareAddress(recipient)) return true;
+  // "Name <local@domain>"
+  size_t open = recipient.rfind('<');
+  return open != std::string::npos && recipient.size() > open + 2 && recipient.back() == '>' &&
+         isBareAddress(recipient.substr(open + 1, recipient.size() - open - 2));
+}
 
 std::string sendmailCommand() {
   std::string command;

@@ -11,9 +11,13 @@
 constexpr const char* kSendmailDefault = "/usr/sbin/sendmail -t -i";
 std::string sendmailCommand();
 
+// "local@domain" or "Name <local@domain>": what the mail program takes. A
+// display name alone ("Bob Smith"), which MAPI would resolve, is none.
+bool isMailAddress(const std::string& recipient);
+
 // The whole message with CR LF line ends: From, To (every recipient), Subject
 // (encoded when it holds bytes above 127), Date, the MIME headers of a
-// windows-1252 plain text, a blank line and the note.
+// UTF-8 plain text, a blank line and the note.
 std::string composeInternetMessage(const MailMessage& message, const std::string& from, std::time_t when);
 
 // Runs command through /bin/sh with message on its standard input. A command

@@ -1,9 +1,13 @@
 // kesto settings get|set|list: the settings store from the command line.
+#include <cstdlib>
 #include <iostream>
 #include <memory>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
+#include "cli/known_settings.h"
+#include "foundation/regedit_text.h"
 #include "foundation/settings.h"
 
 namespace {
@@ -14,6 +18,7 @@ struct SettingsArguments {
   std::string value;
   std::string defaultText;
   bool hasDefault = false;
+  bool all = false;
 };
 
 void printSection(SettingsBackend& backend, const std::string& section, bool withSection) {
@@ -36,13 +41,44 @@ void get(CliSession& session, const SettingsArguments& args) {
 }
 
 void set(CliSession& session, const SettingsArguments& args) {
+  // A setting the add-on reads as an integer would read another text as its default.
+  const KnownSetting* known = findKnownSetting(args.section, args.name);
+  if (known && known->integer && !isDecimalInt32(args.value)) {
+    reportError(args.section + "/" + args.name + " takes an integer; " + args.value + " is not one");
+    session.exitStatus = kExitUsage;
+    return;
+  }
   if (!settings().writeString(args.section, args.name, args.value)) {
     reportError("cannot write " + args.section + "/" + args.name + ": " + session.settingsFile().error());
     session.exitStatus = kExitNothing;
   }
 }
 
+// The value the add-on works with: an integer setting whose text is no number reads as its default.
+std::string effectiveValue(const KnownSetting& setting) {
+  if (setting.integer)
+    return std::to_string(settings().readInteger(setting.section, setting.name, std::atoi(setting.fallback)));
+  std::string text;
+  settings().readString(setting.section, setting.name, &text, setting.fallback);
+  return text;
+}
+
+// Every known setting: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default.
+void listKnown(const SettingsArguments& args) {
+  for (const KnownSetting& setting : knownSettings()) {
+    if (!args.section.empty() && foldedCase(args.section) != foldedCase(setting.section)) continue;
+    std::string stored;
+    bool isSet = settings().readString(setting.section, setting.name, &stored, nullptr);
+    std::cout << (args.section.empty() ? std::string(setting.section) + "\t" : "") << setting.name << '\t'
+              << effectiveValue(setting) << '\t' << setting.fallback << '\t' << (isSet ? "set" : "default") << '\n';
+  }
+}
+
 void list(CliSession& session, const SettingsArguments& args) {
+  if (args.all) {
+    listKnown(args);
+    return;
+  }
   SettingsBackend& backend = session.settingsFile();
   if (!args.section.empty()) {
     printSection(backend, args.section, false);
@@ -72,5 +108,7 @@ void installSettingsCommands(CLI::App& command, CliSession& session) {
 
   CLI::App* listCommand = command.add_subcommand("list", "List values: NAME<TAB>TEXT, or SECTION<TAB>NAME<TAB>TEXT");
   listCommand->add_option("section", args->section, "Section (default: every section)");
+  listCommand->add_flag("--all", args->all,
+                        "Every known setting, stored or not: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default");
   listCommand->callback([&session, args] { list(session, *args); });
 }

@@ -4,6 +4,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/file_arguments.h"
 #include "foundation/os.h"
 #include "navigation/quickfind_settings.h"
 #include "navigation/tags_file.h"
@@ -24,12 +25,7 @@ std::string relativeTo(const std::string& dir, const std::string& path) {
 void writeTags(CliSession& session, const TagsArguments& args) {
   if (args.dir.empty() && !session.openProject()) return;
   std::string root = absolutePath(args.dir.empty() ? session.projectDirectory() : args.dir);
-  FileAttributes rootInfo;
-  if (!os().attributes(root, &rootInfo, nullptr) || !rootInfo.isDirectory) {
-    reportError(root + " is not a directory");
-    session.exitStatus = kExitUsage;
-    return;
-  }
+  if (!readableDirectoryArgument(session, root)) return;
   std::vector<TagEntry> tags = treeTags(session.host(), root, QuickFindSettings::read());
   bool toOutput = args.output == "-";
   std::string base = toOutput ? os().currentDirectory() : directoryOf(absolutePath(args.output));

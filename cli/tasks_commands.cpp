@@ -3,10 +3,14 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/integer_options.h"
 #include "delivery/mail.h"
+#include "foundation/text_encoding.h"
+#include "tasks/date_entry.h"
 #include "tasks/flash.h"
 #include "project/project_files.h"
 #include "tasks/task_list_presenter.h"
@@ -23,7 +27,9 @@ const CLI::IsMember kStateChoices({"to-do", "coded", "tested", "ended"});
 
 struct TaskArguments {
   int32_t row = 0;
-  std::string name, type, state, priority, start, end, text;
+  std::string name, type, state, start, end, text;
+  int32_t priority = 0;
+  std::optional<SystemTime> startDate, endDate;  // --start and --end once read
   // The field options, to tell which were given.
   CLI::Option *nameOption = nullptr, *typeOption = nullptr, *stateOption = nullptr, *priorityOption = nullptr,
               *startOption = nullptr, *endOption = nullptr, *textOption = nullptr;
@@ -79,16 +85,6 @@ class TaskSession {
   std::unique_ptr<TaskListPresenter> presenter_;
 };
 
-// Line feeds typed on a command line become the CR LF of the dialog's edit control.
-std::string dialogLines(const std::string& text) {
-  std::string out;
-  for (size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
-    out += text[i];
-  }
-  return out;
-}
-
 // The report's CR LF lines printed as the terminal's lines.
 void printReport(const std::string& report) {
   std::string out;
@@ -112,12 +108,14 @@ void applyFields(TaskSession& session, const TaskArguments& args) {
   if (given(args.nameOption)) edit.name = args.name;
   if (given(args.typeOption)) edit.type = args.type;
   if (given(args.stateOption)) edit.state = kStateNames.at(args.state);
-  if (given(args.priorityOption)) edit.priority = args.priority;
-  edit.readStart = given(args.startOption);
-  edit.readEnd = given(args.endOption);
-  if (edit.readStart) edit.start = args.start;
-  if (edit.readEnd) edit.end = args.end;
-  if (given(args.textOption)) edit.text = dialogLines(args.text);
+  if (given(args.priorityOption)) edit.priority = std::to_string(args.priority);
+  // A shown date is never read back: its text holds no century.
+  edit.readStart = false;
+  edit.readEnd = false;
+  edit.startDate = args.startDate;
+  edit.endDate = args.endDate;
+  // Line feeds typed on a command line become the CR LF of the dialog's edit control.
+  if (given(args.textOption)) edit.text = withCrLfLines(args.text);
   if (args.makePublic) edit.isPublic = true;
   if (args.makePrivate) edit.isPublic = false;
   if (!session.presenter().apply()) session.cli().exitStatus = kExitNothing;
@@ -127,12 +125,44 @@ void addFieldOptions(CLI::App* command, TaskArguments& args) {
   args.nameOption = command->add_option("--name", args.name, "Name (79 characters kept)");
   args.typeOption = command->add_option("--type", args.type, "Type (79 characters kept)");
   args.stateOption = command->add_option("--state", args.state, "State")->check(kStateChoices);
-  args.priorityOption = command->add_option("--priority", args.priority, "Priority, an unsigned number");
-  args.startOption = command->add_option("--start", args.start, "Start date, in the order of your short dates");
-  args.endOption = command->add_option("--end", args.end, "End date, in the order of your short dates");
+  args.priorityOption = addIntegerOption(*command, "--priority", args.priority, "Priority, an unsigned number", 0);
+  args.startOption = command->add_option("--start", args.start, "Start date: YYYY-MM-DD, or in the order of your short dates");
+  args.endOption = command->add_option("--end", args.end, "End date: YYYY-MM-DD, or in the order of your short dates");
   args.textOption = command->add_option("--text", args.text, "Description (1022 characters kept)");
   auto* makePublic = command->add_flag("--public", args.makePublic, "Make the task public");
   command->add_flag("--private", args.makePrivate, "Make the task private")->excludes(makePublic);
+}
+
+// Reads the date of option, when given, into *date. A date that is not one is
+// a usage error; a short year is read as the task dialog reads it, and the
+// user is told which year that is.
+bool readDateOption(CliSession& session, const CLI::Option* option, const std::string& text,
+                    std::optional<SystemTime>* date) {
+  if (!given(option)) return true;
+  const bool dayFirst = userDatesPutDayFirst();
+  const std::string forms = std::string("YYYY-MM-DD or ") + (dayFirst ? "DD/MM/YYYY" : "MM/DD/YYYY");
+  const std::string name = option->get_name();
+  SystemTime read = os().localTime();
+  switch (readCheckedDate(text, dayFirst, &read)) {
+    case CheckedDate::Refused:
+      reportError(name + " " + text + " is not a date: write " + forms);
+      session.exitStatus = kExitUsage;
+      return false;
+    case CheckedDate::CenturyAdded:
+      reportError(name + " " + text + " is stored with the year " + std::to_string(read.year) +
+                  "; for another, write the year in full: " + forms);
+      break;
+    case CheckedDate::AsWritten:
+      break;
+  }
+  *date = read;
+  return true;
+}
+
+// The dates are read before the task file is opened, so that a refused one changes nothing.
+bool readDateOptions(CliSession& session, TaskArguments& args) {
+  return readDateOption(session, args.startOption, args.start, &args.startDate) &&
+         readDateOption(session, args.endOption, args.end, &args.endDate);
 }
 
 template <typename Action>
@@ -146,7 +176,9 @@ std::function<void()> withTasks(CliSession& session, Action action) {
 }
 
 void list(TaskSession& session) {
-  for (const std::string& row : session.presenter().rows()) std::cout << row << '\n';
+  // The row number first: the one that edit and remove take.
+  const std::vector<std::string>& rows = session.presenter().rows();
+  for (size_t row = 0; row < rows.size(); ++row) std::cout << row << '\t' << rows[row] << '\n';
   if (session.presenter().rows().empty()) session.cli().exitStatus = kExitNothing;
 }
 
@@ -200,6 +232,7 @@ void flash(TaskSession& session, const TaskArguments& args) {
 
 void installTasksCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<TaskArguments>();
+  command.footer("Prints ROW<TAB>NAME<TAB>TYPE<TAB>STATE<TAB>PRIORITY<TAB>START<TAB>END per task.");
   command.callback([&command, &session] {
     if (command.get_subcommands().empty()) withTasks(session, list)();
   });
@@ -207,15 +240,19 @@ void installTasksCommands(CLI::App& command, CliSession& session) {
   CLI::App* addCommand = command.add_subcommand("add", "Create a task like \"Create\", then apply the options given; prints its row");
   auto addArgs = std::make_shared<TaskArguments>();
   addFieldOptions(addCommand, *addArgs);
-  addCommand->callback(withTasks(session, [addArgs](TaskSession& s) { add(s, *addArgs); }));
+  addCommand->callback([&session, addArgs] {
+    if (readDateOptions(session, *addArgs)) withTasks(session, [addArgs](TaskSession& s) { add(s, *addArgs); })();
+  });
 
   CLI::App* editCommand = command.add_subcommand("edit", "Change the task of ROW like \"Ok\" (an ended public task is notified)");
-  editCommand->add_option("row", args->row, "Row in the list, from 0")->required();
+  addIntegerOption(*editCommand, "row", args->row, "Row in the list, from 0", 0)->required();
   addFieldOptions(editCommand, *args);  // the only field options on args
-  editCommand->callback(withTasks(session, [args](TaskSession& s) { edit(s, *args); }));
+  editCommand->callback([&session, args] {
+    if (readDateOptions(session, *args)) withTasks(session, [args](TaskSession& s) { edit(s, *args); })();
+  });
 
   CLI::App* removeCommand = command.add_subcommand("remove", "Remove the task of ROW (asks; --yes answers)");
-  removeCommand->add_option("row", args->row, "Row in the list, from 0")->required();
+  addIntegerOption(*removeCommand, "row", args->row, "Row in the list, from 0", 0)->required();
   removeCommand->callback(withTasks(session, [args](TaskSession& s) { remove(s, *args); }));
 
   CLI::App* sortCommand = command.add_subcommand("sort", "Set the order of the list");

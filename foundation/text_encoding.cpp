@@ -102,3 +102,18 @@ std::string encodeText(std::string_view text, TextEncoding encoding) {
   }
   return out;
 }
+
+bool usesCrLfLines(std::string_view text) {
+  size_t end = text.find('\n');
+  return end != std::string_view::npos && end > 0 && text[end - 1] == '\r';
+}
+
+std::string withCrLfLines(std::string_view text) {
+  std::string out;
+  out.reserve(text.size() + text.size() / 16);
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
+    out += text[i];
+  }
+  return out;
+}

@@ -18,3 +18,10 @@ std::string_view textOf(const std::string& bytes, std::string* decoded, TextEnco
 // CR LF line ends, as the tools that write UTF-16 scripts use them; other text
 // is returned unchanged (text-mode writing adds the platform's line ends).
 std::string encodeText(std::string_view text, TextEncoding encoding);
+
+// True when the first line of text ends with CR LF: the line-end style that a
+// rewrite of a user's file keeps.
+bool usesCrLfLines(std::string_view text);
+
+// Text with every lone "\n" made CR LF; CR LF pairs stay as they are.
+std::string withCrLfLines(std::string_view text);

@@ -68,7 +68,9 @@ class RunWriter {
         italic_ = false;
         return;
       case '/':
-        if (!italic_ && *pos < text_.size() && text_[*pos] == '/') {
+        // Every "//" gets its "<I>", also one on a line already in italics;
+        // the line end closes italics once.
+        if (*pos < text_.size() && text_[*pos] == '/') {
           out_ += "<I>//";
           italic_ = true;
           ++*pos;

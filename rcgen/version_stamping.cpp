@@ -64,7 +64,11 @@ std::string findName(const std::vector<DirectoryEntry>& entries, const char* nam
 bool writeStamped(const std::string& path, const std::string& bytes, int32_t* buildNumber, std::string* err) {
   std::string decoded;
   TextEncoding encoding = TextEncoding::Bytes;
-  std::string stamped = stampVersionText(textOf(bytes, &decoded, &encoding), buildNumber);
+  std::string_view text = textOf(bytes, &decoded, &encoding);
+  std::string stamped = stampVersionText(text, buildNumber);
+  // A script with CR LF lines keeps them where text mode would write "\n".
+  if (encoding == TextEncoding::Bytes && usesCrLfLines(text))
+    return os().writeFileAtomic(path, withCrLfLines(stamped), err);
   if (encoding == TextEncoding::Bytes) return os().writeTextFileAtomic(path, stamped, err);
   return os().writeFileAtomic(path, encodeText(stamped, encoding), err);
 }

@@ -173,8 +173,14 @@ bool TaskListPresenter::apply() {
   task->priority = readUnsignedField(edit.priority);
   task->isPublic = edit.isPublic ? 1 : 0;
   task->text = edit.text.substr(0, kMaxTextLength);
-  if (edit.readStart) task->start = readUserDate(edit.start);
-  if (edit.readEnd) task->end = readUserDate(edit.end);
+  if (edit.startDate)
+    task->start = *edit.startDate;
+  else if (edit.readStart)
+    task->start = readUserDate(edit.start);
+  if (edit.endDate)
+    task->end = *edit.endDate;
+  else if (edit.readEnd)
+    task->end = readUserDate(edit.end);
   refresh(true);
   selectTaskOrFirstRow(task);
   if (previous != kEnded && task->state == kEnded && tasks_.mainOn && task->isPublic)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,10 @@ struct TaskEditArea {
   // this century would put it in the last one.
   bool readStart = true;
   bool readEnd = true;
+  // Dates a host has read itself, stored by "Ok" as they are instead of the
+  // texts: the command line takes a four-digit year as written.
+  std::optional<SystemTime> startDate;
+  std::optional<SystemTime> endDate;
   std::string text;      // 118
 };
 

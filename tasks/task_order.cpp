@@ -1,7 +1,9 @@
 // Task comparators: each order is a list of keys compared in turn.
 #include "tasks/task_order.h"
 
+#include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace {
 
@@ -35,16 +37,6 @@ int compareKey(const Task& a, const Task& b, Key key) {
   return 0;
 }
 
-// The container sort takes a plain function; the chosen order travels beside it.
-int32_t currentKey = kByStartDate;
-int currentDirection = 1;
-
-int compareSlots(const void* slotA, const void* slotB) {
-  const Task& a = *static_cast<const Task*>(*static_cast<Basic* const*>(slotA));
-  const Task& b = *static_cast<const Task*>(*static_cast<Basic* const*>(slotB));
-  return compareTasks(a, b, currentKey, currentDirection);
-}
-
 }  // namespace
 
 const char* sortKeyText(int32_t sortKey) {
@@ -65,7 +57,13 @@ int compareTasks(const Task& a, const Task& b, int32_t sortKey, int direction) {
 }
 
 void sortTasks(Tableau<Task>& tasks, int32_t sortKey, int direction) {
-  currentKey = sortKey;
-  currentDirection = direction;
-  tasks.sort(compareSlots);
+  // Stable, so that tasks equal in every key keep the file's order and a row
+  // number stays the same from one listing to the next; the C library's qsort
+  // promises no order for them.
+  std::vector<Task*> sorted;
+  for (int32_t i = 0; i < tasks.count(); ++i) sorted.push_back(tasks[i]);
+  std::stable_sort(sorted.begin(), sorted.end(), [sortKey, direction](const Task* a, const Task* b) {
+    return compareTasks(*a, *b, sortKey, direction) < 0;
+  });
+  for (int32_t i = 0; i < tasks.count(); ++i) tasks.set(i, sorted[static_cast<size_t>(i)]);
 }

@@ -20,5 +20,5 @@ int compareDates(const SystemTime& a, const SystemTime& b);
 // key is equal. A sort key outside 0..4 sorts by start date.
 int compareTasks(const Task& a, const Task& b, int32_t sortKey, int direction);
 
-// Sorts a table of tasks with the container sort.
+// Sorts a table of tasks; tasks equal in every key keep their order.
 void sortTasks(Tableau<Task>& tasks, int32_t sortKey, int direction);

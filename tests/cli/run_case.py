@@ -13,10 +13,14 @@ A case folder holds:
   stderr    expected standard error (default: empty)
   status    expected exit status (default: 0)
   after/    files expected in the directory afterwards, compared byte for byte
+  gone      paths that must not exist afterwards, one per line
+  terminal  present: standard output and standard error go to one terminal,
+            and stdout holds what it shows (line ends as "\n")
 The temporary directory's path is written @TMP@ in every expected text, and the
 settings file is @TMP@/settings.reg unless env says otherwise.
 """
 import os
+import pty
 import shutil
 import subprocess
 import sys
@@ -29,6 +33,27 @@ def read(path, default=b""):
             return f.read()
     except FileNotFoundError:
         return default
+
+
+def run_on_terminal(command, cwd, env, stdin):
+    """Runs command with standard output and standard error on one new terminal."""
+    master, slave = pty.openpty()
+    process = subprocess.Popen(command, cwd=cwd, env=env, stdin=subprocess.PIPE, stdout=slave, stderr=slave)
+    os.close(slave)
+    process.stdin.write(stdin)
+    process.stdin.close()
+    shown = b""
+    while True:
+        try:
+            chunk = os.read(master, 4096)
+        except OSError:  # the terminal's last writer has gone
+            break
+        if not chunk:
+            break
+        shown += chunk
+    os.close(master)
+    process.wait(timeout=120)
+    return subprocess.CompletedProcess(command, process.returncode, shown.replace(b"\r\n", b"\n"), b"")
 
 
 def main():
@@ -52,8 +77,11 @@ def main():
                 key, value = line.split("=", 1)
                 env[key] = value.replace("@TMP@", tmp)
         args = [a.replace("@TMP@", tmp) for a in args]
-        result = subprocess.run([kesto] + args, cwd=tmp, env=env, input=read(os.path.join(case, "stdin")),
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
+        if os.path.isfile(os.path.join(case, "terminal")):
+            result = run_on_terminal([kesto] + args, tmp, env, read(os.path.join(case, "stdin")))
+        else:
+            result = subprocess.run([kesto] + args, cwd=tmp, env=env, input=read(os.path.join(case, "stdin")),
+                                    stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
 
         def check(name, actual, expected):
             actual = actual.replace(tmp.encode(), b"@TMP@")
@@ -72,6 +100,9 @@ def main():
                 expected_path = os.path.join(root, name)
                 relative = os.path.relpath(expected_path, after)
                 check("file " + relative, read(os.path.join(tmp, relative), b"<missing>"), read(expected_path))
+        for relative in read(os.path.join(case, "gone")).decode().splitlines():
+            if relative and os.path.lexists(os.path.join(tmp, relative)):
+                failures.append("file %s should not exist" % relative)
     if failures:
         print("case %s failed; to reproduce: cd into a copy of %s/setup and run %s %s" %
               (case, case, kesto, " ".join(args)))

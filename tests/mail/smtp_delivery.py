@@ -112,14 +112,14 @@ def main():
             run("mail", "recipients", "add", "bob@example.org")
             run("settings", "set", "Mail", "Sendmail", "msmtp -C '%s' -t" % config)
             run("settings", "set", "Tasks", "KeyIsDelivery", "0")
-            run("tasks", "add", "--name", b"Caf\xe9 release", "--public", "--text", "Shipped.\nAll good.")
+            run("tasks", "add", "--name", "Caf\u00e9 release".encode(), "--public", "--text", "Shipped.\nAll good.")
             run("tasks", "edit", "0", "--state", "ended")
 
             message, recipients = arrived(1)
             if message:
                 expect("recipients", recipients, ["ann@example.org", "bob@example.org"])
                 expect("subject", subject(message), 'End of task "Caf\xe9 release" (project demo)')
-                expect("charset", message.get_content_charset(), "windows-1252")
+                expect("charset", message.get_content_charset(), "utf-8")
                 expect("to", message["To"].replace("\r\n", "").replace("\n", ""), "ann@example.org, bob@example.org")
                 expect("body", message.get_payload(decode=True), b"Shipped.\r\nAll good.\r\n")
                 if not message["Date"] or not message["From"]:
@@ -138,7 +138,7 @@ def main():
                 rule = b"-" * 70
                 expect("included body", message.get_payload(decode=True),
                        b"Report\r\n" + rule + b"\r\n  NOTIFICATIONS FOR ENDED TASKS\r\n" + rule +
-                       b"\r\n*** Task : Caf\xe9 release ***\r\nShipped.\r\nAll good.\r\n" + rule +
+                       b"\r\n*** Task : Caf\xc3\xa9 release ***\r\nShipped.\r\nAll good.\r\n" + rule +
                        b"\r\nThat's all folks !\r\n")
             if os.path.exists(os.path.join(tmp, "demo.kpj.tsk.txt")):
                 failures.append("the notification file was kept after a successful send")

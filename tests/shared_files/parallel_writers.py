@@ -28,7 +28,7 @@ class ParallelWriters(SandboxCase):
 
     def test_task_adds_keep_every_task(self):
         self.check_all_kept(lambda n: ["tasks", "add", "--name", "t%d" % n], ["tasks"],
-                            ["t%d" % n for n in range(WRITERS)], key=lambda row: row.split("\t")[0])
+                            ["t%d" % n for n in range(WRITERS)], key=lambda row: row.split("\t")[1])
 
     def test_node_adds_keep_every_node(self):
         self.check_all_kept(lambda n: ["project", "add", "node%d" % n, "--type", ".cpp"], ["project", "show"],
@@ -72,5 +72,5 @@ class LockWait(SandboxCase):
                         % (waiting.returncode, stderr))
         self.assertFalse(changed_meanwhile, "the task file was rewritten under another's lock")
         self.assertEqual(waiting.returncode, 0, stderr)
-        names = [row.split("\t")[0] for row in self.sandbox.run(["tasks"], self.project).text().splitlines()]
+        names = [row.split("\t")[1] for row in self.sandbox.run(["tasks"], self.project).text().splitlines()]
         self.assertEqual(sorted(names), ["first", "second"])

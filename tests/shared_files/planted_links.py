@@ -69,7 +69,7 @@ class PlantedLinkCase(SandboxCase):
         return project
 
     def task_names(self, project):
-        return [row.split("\t")[0] for row in self.sandbox.run(["tasks"], project).text().splitlines()]
+        return [row.split("\t")[1] for row in self.sandbox.run(["tasks"], project).text().splitlines()]
 
 
 class LinkAtOldTemporaryName(PlantedLinkCase):

@@ -117,6 +117,16 @@ TEST(VersionStampingTest, Utf16ScriptsKeepTheirEncoding) {
   EXPECT_EQ(project.read("VERSION.RC"), utf16(u"\uFEFFFILEVERSION 1, 0, 0, 2\r\n// \u00e9\u65e5\r\n"));
 }
 
+TEST(VersionStampingTest, ScriptsKeepTheirLineEnds) {
+  TempDir project;
+  project.write(joinPath("crlf", "VERSION.RC"), "1 VERSIONINFO\r\nFILEVERSION 1,0,0,1\r\n{\r\n}\r\n");
+  project.write(joinPath("lf", "VERSION.RC"), "1 VERSIONINFO\nFILEVERSION 1,0,0,1\n");
+  int32_t build = 0;
+  stampTree(project.path(), &build);
+  EXPECT_EQ(project.read(joinPath("crlf", "VERSION.RC")), "1 VERSIONINFO\r\nFILEVERSION 1, 0, 0, 2\r\n{\r\n}\r\n");
+  EXPECT_EQ(project.read(joinPath("lf", "VERSION.RC")), platformText("1 VERSIONINFO\nFILEVERSION 1, 0, 0, 2\n"));
+}
+
 TEST(VersionStampingTest, AFailingFileSystemNeverLosesTheFirstText) {
   for (int failAt = 1;; ++failAt) {
     TempDir project;

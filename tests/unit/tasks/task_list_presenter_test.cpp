@@ -209,4 +209,36 @@ TEST(DateEntryTest, DayOrMonthFirstByTheUsersFormat) {
   EXPECT_EQ(date.year, 1996);
 }
 
+TEST(DateEntryTest, CheckedDateTakesIsoAndFullYearsAsWritten) {
+  SystemTime date = makeDate(1996, 5, 15, 10);
+  EXPECT_EQ(readCheckedDate("2026-02-28", false, &date), CheckedDate::AsWritten);
+  EXPECT_EQ(date.year, 2026);
+  EXPECT_EQ(date.month, 2);
+  EXPECT_EQ(date.day, 28);
+  EXPECT_EQ(date.hour, 10) << "only the date is set";
+  EXPECT_EQ(readCheckedDate("31/12/2026", true, &date), CheckedDate::AsWritten);
+  EXPECT_EQ(date.month, 12);
+  EXPECT_EQ(date.day, 31);
+  EXPECT_EQ(readCheckedDate("2/29/2000", false, &date), CheckedDate::AsWritten);
+  EXPECT_EQ(date.month, 2);
+  EXPECT_EQ(date.day, 29);
+}
+
+TEST(DateEntryTest, CheckedDateKeepsTheDialogsShortYear) {
+  SystemTime date;
+  EXPECT_EQ(readCheckedDate("12/1/26", false, &date), CheckedDate::CenturyAdded);
+  EXPECT_EQ(date.year, 1926);
+  EXPECT_EQ(date.month, 12);
+  EXPECT_EQ(date.day, 1);
+}
+
+TEST(DateEntryTest, CheckedDateRefusesWhatIsNoDate) {
+  for (const char* text : {"31/12/2026", "2026-02-30", "2/29/1900", "13/1/2026", "0/1/2026", "tomorrow", "",
+                           "1/2", "1/2/3/4", "1/2/026", "26-12-01", "2026-12-1x", "1//2026", "1/2/1600"}) {
+    SystemTime date = makeDate(1996, 5, 15);
+    EXPECT_EQ(readCheckedDate(text, false, &date), CheckedDate::Refused) << text;
+    EXPECT_EQ(date.year, 1996) << text;
+  }
+}
+
 }  // namespace

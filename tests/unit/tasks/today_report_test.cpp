@@ -42,6 +42,29 @@ TEST_F(TaskViewTest, SortsByPriorityAndReversesToHighestFirst) {
   EXPECT_EQ(viewNames(), (std::vector<std::string>{"high", "low"}));
 }
 
+TEST_F(TaskViewTest, TasksEqualInEveryKeyKeepTheFileOrder) {
+  // Enough tasks for a quicksort to shuffle equal ones.
+  std::vector<std::string> texts;
+  for (int i = 0; i < 40; ++i) {
+    Task* task = makeTask(i % 2 ? "same" : "other", 0);
+    task->text = "task " + std::to_string(i);
+    list.append(task);
+    if (i % 2) texts.push_back(task->text.str());
+  }
+  list.showFlags[0] = 1;
+  for (int32_t key = 0; key < kTaskSortKeyCount; ++key) {
+    for (int32_t reverse : {0, 1}) {
+      list.sortKey = key;
+      list.reverse = reverse;
+      list.rebuildView();
+      std::vector<std::string> seen;
+      for (int32_t i = 0; i < list.view.count(); ++i)
+        if (list.view[i]->name.str() == "same") seen.push_back(list.view[i]->text.str());
+      EXPECT_EQ(seen, texts) << "key " << key << " reverse " << reverse;
+    }
+  }
+}
+
 TEST_F(TaskViewTest, ComparatorsWalkTheirKeysAndIgnoreTimeOfDay) {
   Task a;
   Task b;

@@ -3,7 +3,7 @@
 Returns the count~
 Takes §list the list and §max the limit.
 // also hidden
-The result // is never negative
+The result // is never negative // nor past max
 §§int the count
 */
 CALCUL_INT count(List *list, int max)

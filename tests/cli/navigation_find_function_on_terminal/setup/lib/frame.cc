@@ -1,0 +1,3 @@
+void Frame::Paint(HDC dc)
+{
+}
