@@ -4,6 +4,7 @@
 #include "cli/sendmail_transport.h"
 #include "foundation/regedit_text.h"
 #include "groupware/groupware_settings.h"
+#include "html/html_settings.h"
 
 const std::vector<KnownSetting>& knownSettings() {
   static const std::vector<KnownSetting> kSettings = {
@@ -59,7 +60,7 @@ const std::vector<KnownSetting>& knownSettings() {
       {"Groupware", "MailOnSend", true, "1"},
       {"Groupware", "MailOnGet", true, "0"},
       {"Groupware", "Filters", false, GroupwareSettings::kDefaultFilters},
-      {"HTML", "Filters", false, "*.cpp;*.cc;*.c;*.h;*.rh"},
+      {"HTML", "Filters", false, HtmlSettings::kDefaultFilters},
       {"Make", "BuildNumber", true, "0"},
   };
   return kSettings;
