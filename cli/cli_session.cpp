@@ -1,6 +1,7 @@
 // The open project, the settings file and the host of one kesto run.
 #include "cli/cli_session.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 
@@ -11,17 +12,43 @@
 
 namespace {
 
-// The one *.kpj of the current directory; empty when there is none or several.
-std::string projectInCurrentDirectory() {
+// The *.kpj files of directory, sorted.
+std::vector<std::string> projectFilesIn(const std::string& directory) {
   std::vector<DirectoryEntry> entries;
-  if (!os().listDirectory(".", &entries, nullptr)) return "";
-  std::string found;
-  for (const DirectoryEntry& entry : entries) {
-    if (entry.attributes.isDirectory || !matchesMask(entry.name, "*.kpj")) continue;
-    if (!found.empty()) return "";
-    found = entry.name;
-  }
+  std::vector<std::string> found;
+  if (!os().listDirectory(directory, &entries, nullptr)) return found;
+  for (const DirectoryEntry& entry : entries)
+    if (!entry.attributes.isDirectory && matchesMask(entry.name, "*.kpj")) found.push_back(joinPath(directory, entry.name));
+  std::sort(found.begin(), found.end());
   return found;
+}
+
+// The one *.kpj of the current directory, else of the nearest parent that has
+// any, as version control tools find their trees; the search stops below
+// $KESTO_CEILING_DIRECTORY when it is set. Empty when no directory up to the
+// root has one; false with err when the nearest has several.
+bool findProjectUpward(std::string* path, std::string* err) {
+  path->clear();
+  const char* ceilingValue = std::getenv("KESTO_CEILING_DIRECTORY");
+  const std::string ceiling = ceilingValue ? ceilingValue : "";
+  std::string directory = os().currentDirectory();
+  while (!directory.empty() && directory != ceiling) {
+    std::vector<std::string> found = projectFilesIn(directory);
+    if (found.size() == 1) {
+      *path = found[0];
+      return true;
+    }
+    if (found.size() > 1) {
+      *err = "several project files in " + directory + ":";
+      for (const std::string& file : found) *err += " " + fileNameOf(file);
+      *err += "; give --project FILE";
+      return false;
+    }
+    const std::string parent = directoryOf(directory);
+    if (parent == directory) break;
+    directory = parent;
+  }
+  return true;
 }
 
 }  // namespace
@@ -84,11 +111,16 @@ bool CliSession::openProject(ProjectUse use, ProjectTasks tasks) {
   opened_ = true;
   mail_.loadSettings();
   tasks_.loadSettings();
-  std::string path = projectOption.empty() ? projectInCurrentDirectory() : projectOption;
+  std::string path = projectOption;
+  std::string err;
+  if (path.empty() && !findProjectUpward(&path, &err)) {
+    reportError(err);
+    exitStatus = kExitUsage;
+    return false;
+  }
   if (path.empty()) return true;
   path = absolutePath(path);
   auto project = std::make_unique<KpjProject>();
-  std::string err;
   if (use == ProjectUse::Update && !(projectLock_ = os().lock(path, &err))) {
     reportError(err);
     exitStatus = kExitNothing;
@@ -125,7 +157,7 @@ bool CliSession::saveProject(std::string* err) {
 bool CliSession::requireProject(ProjectUse use, ProjectTasks tasks) {
   if (!openProject(use, tasks)) return false;
   if (project_) return true;
-  reportError("no project: give --project FILE or run where one *.kpj file is");
+  reportError("no project: give --project FILE or run in or below a directory with one *.kpj file");
   exitStatus = kExitUsage;
   return false;
 }

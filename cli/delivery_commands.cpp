@@ -6,6 +6,7 @@
 #include "cli/command_table.h"
 #include "delivery/delivery_run.h"
 #include "foundation/alert.h"
+#include "foundation/os.h"
 #include "foundation/settings.h"
 #include "tasks/task_list.h"
 
@@ -29,20 +30,41 @@ bool confirmOnTerminal(DeliveryConfirmation& confirmation, const DeliveryArgumen
   return alert("Deliver these files ?", DeliveryConfirmation::kTitle, kAlertYesNo | kAlertIconQuestion) == kAnswerYes;
 }
 
+// The groups of the delivery node, rebuilt as the delivery does.
+Tableau<OneDelRep>& rebuiltGroups(CliSession& session) {
+  rebuildDeliveryGroups(session.delivery().groups, &session.project()->root());
+  return session.delivery().groups;
+}
+
+// Every group whose directory is missing, each with the command that fixes it;
+// false when there is one.
+bool groupsHaveDirectories(CliSession& session) {
+  bool complete = true;
+  const Tableau<OneDelRep>& groups = rebuiltGroups(session);
+  for (int32_t i = 0; i < groups.count(); ++i) {
+    const OneDelRep* group = groups[i];
+    const std::string type = group->type.str();
+    const std::string directory = group->directory.str();
+    if (!directory.empty() && os().exists(projectPath(session.projectDirectory(), directory))) continue;
+    reportError("group " + type + (directory.empty() ? " has no delivery directory" : ": " + directory + " does not exist") +
+                ": kesto delivery set " + type + " --dir DIR");
+    complete = false;
+  }
+  return complete;
+}
+
 void deliver(CliSession& session, const DeliveryArguments& args) {
   if (!session.requireProject()) return;
+  if (!groupsHaveDirectories(session)) {
+    session.exitStatus = kExitNothing;
+    return;
+  }
   const TaskList& tasks = session.tasks();
   DeliveryOutcome outcome =
       session.delivery().run(session.host(), session.mail(), tasks.mainOn && tasks.keyIsDelivery,
                    [&args](DeliveryConfirmation& confirmation) { return confirmOnTerminal(confirmation, args); });
   bool listedOnly = outcome == DeliveryOutcome::Cancelled && args.dryRun;
   if (outcome != DeliveryOutcome::Delivered && !listedOnly) session.exitStatus = kExitNothing;
-}
-
-// The groups as the option page shows them: rebuilt from the project's delivery node.
-Tableau<OneDelRep>& rebuiltGroups(CliSession& session) {
-  rebuildDeliveryGroups(session.delivery().groups, &session.project()->root());
-  return session.delivery().groups;
 }
 
 void listGroups(CliSession& session) {
@@ -65,6 +87,11 @@ void setGroup(CliSession& session, const DeliveryArguments& args) {
     for (int32_t i = 0; i < groups.count(); ++i) types += std::string(" ") + groups[i]->type.c_str();
     reportError("no delivery group of type " + args.type + "; the types under the DELIVERY node are:" +
                 (types.empty() ? std::string(" none") : types));
+    session.exitStatus = kExitUsage;
+    return;
+  }
+  if (!args.directory.empty() && !os().exists(projectPath(session.projectDirectory(), args.directory))) {
+    reportError("delivery directory " + args.directory + " does not exist");
     session.exitStatus = kExitUsage;
     return;
   }

@@ -250,7 +250,12 @@ const ProjectNode* KpjProject::addNodeUnder(const ProjectNode& parent, const std
   for (size_t i : path) holder = &(*holder)["nodes"][i];
   Json node = Json::object();
   node["name"] = name;
-  if (!type.empty()) node["type"] = type;
+  // The IDE's default type is the file's extension; without one, a delivery
+  // group of type "" would be made that nothing can set.
+  const std::string file = fileNameOf(name);
+  const size_t dot = file.rfind('.');
+  const std::string extension = dot == std::string::npos ? std::string() : file.substr(dot);
+  node["type"] = type.empty() ? extension : type;
   (*holder)["nodes"].push_back(node);
   if (!readRoot(nullptr)) return nullptr;
   const ProjectNode* added = &root_;

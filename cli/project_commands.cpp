@@ -6,6 +6,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "foundation/file_mask.h"
 #include "foundation/os.h"
 #include "foundation/settings.h"
 #include "groupware/quick_add_presenter.h"
@@ -37,8 +38,12 @@ class OrderedOptions : public ProjectOptionStore {
   std::vector<std::pair<std::string, std::string>> entries;
 };
 
+// NAME<TAB>TYPE, then the directory options the node sets.
 void printNode(const ProjectNode& node, const std::string& indent) {
-  std::cout << indent << node.name << '\t' << node.type << '\n';
+  std::cout << indent << node.name << '\t' << node.type;
+  if (!node.includePath.empty()) std::cout << "\tinclude=" << node.includePath;
+  if (!node.sourcePath.empty()) std::cout << "\tsource=" << node.sourcePath;
+  std::cout << '\n';
   for (const ProjectNode& child : node.nodes) printNode(child, indent + "  ");
 }
 
@@ -53,10 +58,11 @@ std::string optionText(const std::string& name, const std::string& bytes) {
 
 void create(CliSession& session, const ProjectArguments& args) {
   std::string err;
-  if (os().exists(args.file)) {
-    reportError(args.file + " exists already");
+  const std::string file = matchesMask(fileNameOf(args.file), "*.kpj") ? args.file : args.file + ".kpj";
+  if (os().exists(file)) {
+    reportError(file + " exists already");
     session.exitStatus = kExitNothing;
-  } else if (!os().writeFileAtomic(args.file, KpjProject::emptyText(), &err)) {
+  } else if (!os().writeFileAtomic(file, KpjProject::emptyText(), &err)) {
     reportError(err);
     session.exitStatus = kExitNothing;
   }
@@ -173,6 +179,13 @@ void installProjectCommands(CLI::App& command, CliSession& session) {
   addCommand->add_option("--type", args->type, "Node type, such as .exe or .cpp")->required();
   addCommand->add_option("--parent", args->parent, "Name of the node to add it under (default: the top node)");
   addCommand->callback([&session, args] {
+    // A node of type "" would make a delivery group that nothing can set.
+    if (args->name.find_first_not_of(" \t") == std::string::npos ||
+        args->type.find_first_not_of(" \t") == std::string::npos) {
+      reportError("a node needs a name and a type, such as: kesto project add util.cpp --type .cpp");
+      session.exitStatus = kExitUsage;
+      return;
+    }
     editTree(session, [args](KpjProject& project, std::string* err) {
       return project.addNode(args->parent, args->name, args->type, err);
     });

@@ -16,6 +16,7 @@ A case folder holds:
   gone      paths that must not exist afterwards, one per line
   terminal  present: standard output and standard error go to one terminal,
             and stdout holds what it shows (line ends as "\n")
+  cwd       the directory to run in, relative to the temporary one (default: itself)
 The temporary directory's path is written @TMP@ in every expected text, and the
 settings file is @TMP@/settings.reg unless env says otherwise.
 """
@@ -70,6 +71,8 @@ def main():
             subprocess.run(["sh", os.path.abspath(prepare)], cwd=tmp, check=True)
         env = dict(os.environ)
         env["KESTO_SETTINGS"] = os.path.join(tmp, "settings.reg")
+        # A project file left above the case's directory must not be found.
+        env["KESTO_CEILING_DIRECTORY"] = os.path.dirname(tmp)
         env["LC_ALL"] = "C"
         env.pop("LANG", None)
         for line in read(os.path.join(case, "env")).decode().splitlines():
@@ -77,10 +80,11 @@ def main():
                 key, value = line.split("=", 1)
                 env[key] = value.replace("@TMP@", tmp)
         args = [a.replace("@TMP@", tmp) for a in args]
+        cwd = os.path.join(tmp, read(os.path.join(case, "cwd")).decode().strip())
         if os.path.isfile(os.path.join(case, "terminal")):
-            result = run_on_terminal([kesto] + args, tmp, env, read(os.path.join(case, "stdin")))
+            result = run_on_terminal([kesto] + args, cwd, env, read(os.path.join(case, "stdin")))
         else:
-            result = subprocess.run([kesto] + args, cwd=tmp, env=env, input=read(os.path.join(case, "stdin")),
+            result = subprocess.run([kesto] + args, cwd=cwd, env=env, input=read(os.path.join(case, "stdin")),
                                     stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=120)
 
         def check(name, actual, expected):
