@@ -1,6 +1,9 @@
 // kesto: the add-on's features on a project file, from the command line.
 #include <CLI/CLI.hpp>
 
+#include <unistd.h>
+
+#include <cstdio>
 #include <iostream>
 #include <string>
 
@@ -39,6 +42,9 @@ bool commandIsKnown(const std::string& word) {
 int main(int argc, char** argv) {
   const std::string command = commandWord(argc, argv);
   if (!commandIsKnown(command)) return kExitUsage;
+  // Into a pipe, each line as it is made: a log shows a long delivery as it goes.
+  // The searches, which print many lines fast, set their own buffer.
+  if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOLBF, 1 << 16);
   CliSession session;
   CLI::App app{"Kesto AddOn on the command line: navigation, completion, tasks, documentation and generators."};
   app.name("kesto");

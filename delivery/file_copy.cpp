@@ -31,7 +31,7 @@ class BlockCopy {
     if (!in) return CopyFailure::OpenSource;
     // An uncommitted replacement removes its temporary on every return below.
     Replacement out;
-    if (!out.open(to_, mode, err)) return CopyFailure::CreateTarget;
+    if (!out.open(to_, mode, err, source.executable)) return CopyFailure::CreateTarget;
     std::vector<char> buffer(kCopyBlockSize);
     for (;;) {
       size_t got = 0;

@@ -90,12 +90,12 @@ Replacement::~Replacement() {
   os().removeFile(temporary_, nullptr);
 }
 
-bool Replacement::open(const std::string& target, FinalMode mode, std::string* err) {
+bool Replacement::open(const std::string& target, FinalMode mode, std::string* err, bool executable) {
   target_ = target;
   for (int attempt = 0; attempt < 100; ++attempt) {
     std::string temporary = temporaryPathFor(target, uniqueToken());
     bool existed = false;
-    file_ = os().createNewFile(temporary, target, mode, &existed, err);
+    file_ = os().createNewFile(temporary, target, mode, executable, &existed, err);
     if (file_) {
       temporary_ = temporary;
       return true;

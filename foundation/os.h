@@ -36,6 +36,8 @@ struct FileAttributes {
   // A FIFO, device or socket: reading one could block or never end, so walks
   // skip it and readFile and openFile refuse it.
   bool isSpecial = false;
+  // POSIX: its owner may run it (a program or a script); false on Windows.
+  bool executable = false;
   int64_t modified = 0;  // seconds since 1970-01-01 UTC
   uint64_t size = 0;
 };
@@ -99,9 +101,10 @@ class Os {
   // Creates path for writing, exclusively: null, with *existed set, when anything
   // is there already, a link included, so that nothing is ever written through a
   // planted link. The file takes the permissions of likeFile when that is a
-  // regular file (the defaults otherwise), made read-only or writable as mode says.
+  // regular file (the defaults otherwise), made read-only or writable as mode
+  // says, and runnable by whoever may read it when executable (POSIX only).
   virtual std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
-                                                bool* existed, std::string* err) = 0;
+                                                bool executable, bool* existed, std::string* err) = 0;
   // One attempt at the exclusive advisory lock of path, held on its sidecar lock
   // file (lockFilePathFor), which is created when missing and never followed
   // through a link. Busy when another process holds it.
@@ -192,7 +195,8 @@ class Replacement {
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
 
-  bool open(const std::string& target, FinalMode mode, std::string* err);
+  // executable: the copy of a program stays one (POSIX only).
+  bool open(const std::string& target, FinalMode mode, std::string* err, bool executable = false);
   OsFile& file() { return *file_; }
   // Closes the temporary and renames it over the target.
   bool commit(std::string* err);

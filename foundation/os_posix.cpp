@@ -143,6 +143,7 @@ FileAttributes fromStat(const struct stat& info) {
   attributes.isDirectory = S_ISDIR(info.st_mode);
   attributes.isSpecial = !S_ISDIR(info.st_mode) && !S_ISREG(info.st_mode);
   attributes.readOnly = (info.st_mode & S_IWUSR) == 0;
+  attributes.executable = S_ISREG(info.st_mode) && (info.st_mode & S_IXUSR) != 0;
   attributes.modified = static_cast<int64_t>(info.st_mtime);
   attributes.size = static_cast<uint64_t>(info.st_size);
   return attributes;
@@ -303,7 +304,7 @@ class PosixOs : public Os {
   }
 
   std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
-                                        bool* existed, std::string* err) override {
+                                        bool executable, bool* existed, std::string* err) override {
     // O_EXCL refuses anything at path, a dangling link included; O_NOFOLLOW says so twice.
     int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
     *existed = fd < 0 && errno == EEXIST;
@@ -321,7 +322,9 @@ class PosixOs : public Os {
       return nullptr;
     }
     // Set on the open file before any byte is written, so the file never has another mode under its final name.
-    if (::fchmod(fd, finalMode(info.st_mode & 0777, mode)) != 0) {
+    mode_t permissions = finalMode(info.st_mode & 0777, mode);
+    if (executable) permissions |= (permissions & 0444) >> 2;
+    if (::fchmod(fd, permissions) != 0) {
       fail(err, "fchmod", path);
       file.reset();
       ::unlink(path.c_str());

@@ -220,7 +220,7 @@ class WindowsOs : public Os {
   }
 
   std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,
-                                        bool* existed, std::string* err) override {
+                                        bool /*executable*/, bool* existed, std::string* err) override {
     DWORD like = likeFile.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesA(likeFile.c_str());
     bool readOnly = mode == FinalMode::ReadOnly ||
                     (mode == FinalMode::LikeTarget && like != INVALID_FILE_ATTRIBUTES &&

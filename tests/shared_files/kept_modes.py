@@ -39,3 +39,12 @@ class KeptModes(SandboxCase):
         self.assertStatus(self.sandbox.run(DELIVER, self.project), 0)
         self.assertEqual(read_bytes(delivered), b"new app\n")
         self.assertEqual(oct(mode_of(delivered)), oct(0o755))
+
+    def test_program_delivered_the_first_time_stays_runnable(self):
+        write_delivery_project(self.project, {"tool.sh": b"#!/bin/sh\necho run\n"})
+        os.chmod(os.path.join(self.project, "tool.sh"), 0o750)
+        os.makedirs(os.path.join(self.project, "bin"), exist_ok=True)
+        self.assertStatus(self.sandbox.run(DELIVER, self.project), 0)
+        mode = mode_of(os.path.join(self.project, "bin", "tool.sh"))
+        self.assertNotEqual(mode & 0o100, 0, "a delivered program stays runnable")
+        self.assertEqual(mode & 0o111, (mode & 0o444) >> 2, "by whoever may read it")

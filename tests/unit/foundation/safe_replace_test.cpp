@@ -15,7 +15,7 @@ namespace {
 class PlantingOs : public FaultOs {
  public:
   std::vector<std::string> planted;
-  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool* x,
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool r, bool* x,
                                         std::string* e) override {
     if (planted.size() % 2 == 0) {
       platformOs().writeFile(p, "planted", nullptr);
@@ -23,7 +23,7 @@ class PlantingOs : public FaultOs {
     } else {
       planted.push_back("");
     }
-    return FaultOs::createNewFile(p, l, m, x, e);
+    return FaultOs::createNewFile(p, l, m, r, x, e);
   }
 };
 

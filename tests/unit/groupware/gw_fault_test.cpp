@@ -13,10 +13,10 @@ namespace {
 class SecondBlockFault : public FaultOs {
  public:
   std::string target;
-  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool* x,
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool r, bool* x,
                                         std::string* e) override {
     if (l == target) failAt = calls + 1 + 4;
-    return FaultOs::createNewFile(p, l, m, x, e);
+    return FaultOs::createNewFile(p, l, m, r, x, e);
   }
 };
 

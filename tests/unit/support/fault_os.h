@@ -26,11 +26,11 @@ class FaultOs : public Os {
     if (!tick(e)) return nullptr;
     return wrap(platformOs().openFile(p, e));
   }
-  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool* x,
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool r, bool* x,
                                         std::string* e) override {
     *x = false;
     if (!tick(e)) return nullptr;
-    return wrap(platformOs().createNewFile(p, l, m, x, e));
+    return wrap(platformOs().createNewFile(p, l, m, r, x, e));
   }
   LockAttempt tryLock(const std::string& p, std::unique_ptr<OsLock>* l, std::string* e) override {
     return tick(e) ? platformOs().tryLock(p, l, e) : LockAttempt::Failed;
