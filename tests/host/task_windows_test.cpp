@@ -67,7 +67,9 @@ class TaskWindowsTest : public ::testing::Test {
   std::string project_;
   TestIde ide_;
   RecordedMail mail_{"task-mail.log"};
-  MessageBoxWatchdog watchdog_;
+  MessageBoxWatchdog watchdog_{[](const std::string& box) {
+    if (box.rfind("Warning: ", 0) == 0) saveScreenshot("task-list-owned-box");
+  }};
   LoadedAddon addon_{kAddon};  // unloaded first, before the IDE's windows go
 };
 
@@ -114,6 +116,7 @@ TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed)
   addon_.stop();
   ASSERT_EQ(watchdog_.boxes().size(), 1u);
   EXPECT_EQ(watchdog_.boxes()[0], "Warning: Remove New task ?");
+  EXPECT_EQ(watchdog_.owners()[0], "Task list, disabled") << "the list cannot be clicked again behind its question";
 }
 
 TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) {
