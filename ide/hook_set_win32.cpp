@@ -83,10 +83,13 @@ LRESULT CALLBACK HookSet::windowProcedureHook(int code, WPARAM wParam, LPARAM lP
 
 LRESULT CALLBACK HookSet::messageHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code >= 0 && active_) {
-    const MSG& message = *reinterpret_cast<MSG*>(lParam);
+    MSG& message = *reinterpret_cast<MSG*>(lParam);
     if (message.message == WM_COMMAND && message.wParam == kFrameCommandToWatch && message.hwnd &&
         message.hwnd == ideFrame())
       active_->client_.frameCommandSeen();
+    // A message taken by a dialog is emptied so that the IDE's loop does not
+    // translate and dispatch it a second time.
+    if (wParam == PM_REMOVE && active_->routeDialogKey(&message)) message.message = WM_NULL;
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -94,6 +97,13 @@ LRESULT CALLBACK HookSet::messageHook(int code, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK HookSet::keyboardHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code == HC_ACTION && active_ && active_->onKey(wParam, lParam)) return 1;
   return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+bool HookSet::routeDialogKey(MSG* message) {
+  if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST || !message->hwnd) return false;
+  for (HWND dialog : client_.floatingDialogs())
+    if (dialog && (dialog == message->hwnd || IsChild(dialog, message->hwnd))) return IsDialogMessageA(dialog, message);
+  return false;
 }
 
 bool HookSet::onMouse(UINT message, const MOUSEHOOKSTRUCT& mouse) {

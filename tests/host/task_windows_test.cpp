@@ -35,6 +35,23 @@ HWND flashShown() {
   return found;
 }
 
+// A key stroke as the IDE's thread receives it: a WM_KEYDOWN in its queue for the
+// focused control of window (window itself when nothing inside it has focus),
+// with Shift held in the thread's key state when asked.
+void strike(HWND window, WORD key, bool shift = false) {
+  BYTE keys[256] = {};
+  GetKeyboardState(keys);
+  const BYTE before = keys[VK_SHIFT];
+  keys[VK_SHIFT] = shift ? 0x80 : 0;
+  SetKeyboardState(keys);
+  HWND focus = GetFocus();
+  const UINT scan = MapVirtualKeyA(key, 0);
+  PostMessageA(focus && IsChild(window, focus) ? focus : window, WM_KEYDOWN, key, LPARAM(1) | LPARAM(scan) << 16);
+  pumpMessages(150);
+  keys[VK_SHIFT] = before;
+  SetKeyboardState(keys);
+}
+
 class TaskWindowsTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -150,6 +167,34 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   ide_.project.clients[0]->ProjectClosed();
   addon_.stop();
   EXPECT_EQ(flashShown(), nullptr) << "the add-on takes its windows with it";
+  EXPECT_TRUE(watchdog_.boxes().empty());
+}
+
+TEST_F(TaskWindowsTest, TabEnterAndEscReachTheModelessWindowsThroughTheIdeLoop) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  HWND filter = GetDlgItem(dialog, 102);
+  SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(filter), TRUE);
+  strike(dialog, VK_TAB);
+  EXPECT_EQ(GetFocus(), GetNextDlgTabItem(dialog, filter, FALSE));
+  EXPECT_NE(GetFocus(), filter);
+  strike(dialog, VK_TAB, true);
+  EXPECT_EQ(GetFocus(), filter) << "Shift+Tab goes back";
+
+  SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, 109)), TRUE);
+  strike(dialog, VK_RETURN);
+  EXPECT_EQ(listBoxRows(dialog, 103).size(), 1u) << "Enter on \"Create\" creates";
+  saveScreenshot("task-list-keyboard");
+  strike(dialog, VK_ESCAPE);
+  EXPECT_EQ(ownDialog("Task list"), nullptr) << "Esc closes";
+
+  sendBarCommand(173);
+  HWND flash = flashShown();
+  ASSERT_NE(flash, nullptr);
+  strike(flash, VK_ESCAPE);
+  EXPECT_EQ(flashShown(), nullptr) << "Esc closes the Flash window";
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
   EXPECT_TRUE(watchdog_.boxes().empty());
 }
 
