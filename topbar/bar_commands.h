@@ -13,9 +13,11 @@ enum class BarCommand {
   PlaceCaptionWindow,  // 104
   PaintButtons,        // 111
   Tasks,               // 171-173
+  GroupwareMail,       // 174: mail the last report again
   GroupwareGet,        // 175
   GroupwareSend,       // 176
-  TitleBarPopup,       // 177, 187-189, 197
+  TitleBarPopup,       // 177, 187-189, 197; 177 is also the groupware "Report..."
+  GroupwareServerReport,  // 178
   MethodResults,       // 184
   QuickFind,           // 190-193
   GenerateHtml,        // 194
