@@ -2,6 +2,8 @@
 // passes everything it does not take to the next hook.
 #include "ide/hook_set_win32.h"
 
+#include <algorithm>
+
 #include "project/editor_title.h"
 #include "win32/ide_windows_win32.h"
 #include "project/key_code.h"
@@ -171,8 +173,22 @@ void HookSet::onFrameMessage(UINT message, WPARAM wParam) {
   if (message == WM_SIZE) {
     if (!client_.barFollowsFrame()) return;
     const bool visible = IsWindowVisible(bar_) != FALSE;
-    if (wParam == SIZE_MINIMIZED && visible) ShowWindow(bar_, SW_HIDE);
-    if (wParam != SIZE_MINIMIZED && !visible) ShowWindow(bar_, SW_SHOWNA);
+    if (wParam == SIZE_MINIMIZED && visible) {
+      ShowWindow(bar_, SW_HIDE);
+      for (HWND window : client_.floatingDialogs())
+        if (window && IsWindowVisible(window)) {
+          ShowWindow(window, SW_HIDE);
+          hiddenWithFrame_.push_back(window);
+        }
+    }
+    if (wParam != SIZE_MINIMIZED && !visible) {
+      ShowWindow(bar_, SW_SHOWNA);
+      // A window closed meanwhile is gone, and its handle may be another's.
+      const std::vector<HWND> open = client_.floatingDialogs();
+      for (HWND window : hiddenWithFrame_)
+        if (std::find(open.begin(), open.end(), window) != open.end()) ShowWindow(window, SW_SHOWNA);
+      hiddenWithFrame_.clear();
+    }
     return;
   }
   if (client_.barAlwaysOnTop()) return;

@@ -45,8 +45,8 @@ class HookClient {
   // The IDE's command 13104 reached the frame.
   virtual void frameCommandSeen() = 0;
   // The add-on's open floating windows besides the bar, all modeless dialogs:
-  // they get their dialog keys through the hooks, which the IDE's message loop
-  // would not route to them.
+  // they hide and show with the bar, and get their dialog keys through the
+  // hooks, which the IDE's message loop would not route to them.
   virtual std::vector<HWND> floatingDialogs() = 0;
 };
 
@@ -128,6 +128,7 @@ class HookSet {
   HWND captureWindow_ = nullptr;
   bool suspended_ = false;
   EditorTarget target_;
+  std::vector<HWND> hiddenWithFrame_;  // shown again when the frame is restored
   // Installed in this order and removed in the same order.
   HookHandle mouse_;
   HookHandle windowProcedure_;

@@ -198,4 +198,29 @@ TEST_F(TaskWindowsTest, TabEnterAndEscReachTheModelessWindowsThroughTheIdeLoop) 
   EXPECT_TRUE(watchdog_.boxes().empty());
 }
 
+TEST_F(TaskWindowsTest, MinimisingTheIdeHidesEveryFloatingWindowAndRestoringShowsThem) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  sendBarCommand(173);
+  HWND flash = flashShown();
+  ASSERT_NE(flash, nullptr);
+  HWND bar = FindWindowA("KADO", nullptr);
+  ASSERT_TRUE(IsWindowVisible(bar));
+  auto shown = [&] {
+    return std::vector<bool>{IsWindowVisible(bar) != FALSE, IsWindowVisible(dialog) != FALSE,
+                             IsWindowVisible(flash) != FALSE};
+  };
+  ShowWindow(ide_.windows.frame, SW_MINIMIZE);
+  pumpMessages(300);
+  saveScreenshot("ide-minimised");
+  EXPECT_EQ(shown(), std::vector<bool>(3, false)) << "bar, task list, flash";
+  ShowWindow(ide_.windows.frame, SW_RESTORE);
+  pumpMessages(300);
+  EXPECT_EQ(shown(), std::vector<bool>(3, true));
+  saveScreenshot("ide-restored");
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
+  EXPECT_TRUE(watchdog_.boxes().empty());
+}
+
 }  // namespace
