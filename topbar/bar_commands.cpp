@@ -7,11 +7,10 @@ namespace {
 
 constexpr BarCommandEntry kCommands[] = {
     {101, 101, BarCommand::EditorOpened},     {102, 102, BarCommand::ActiveEditorTitle},
-    {103, 103, BarCommand::RebuildMenu},      {104, 104, BarCommand::PlaceCaptionWindow},
-    {111, 111, BarCommand::PaintButtons},     {171, 173, BarCommand::Tasks},
-    {174, 174, BarCommand::GroupwareMail},    {175, 175, BarCommand::GroupwareGet},
-    {176, 176, BarCommand::GroupwareSend},    {177, 177, BarCommand::TitleBarPopup},
-    {178, 178, BarCommand::GroupwareServerReport},
+    {103, 103, BarCommand::RebuildMenu},      {111, 111, BarCommand::PaintButtons},
+    {171, 173, BarCommand::Tasks},            {174, 174, BarCommand::GroupwareMail},
+    {175, 175, BarCommand::GroupwareGet},     {176, 176, BarCommand::GroupwareSend},
+    {177, 177, BarCommand::TitleBarPopup},    {178, 178, BarCommand::GroupwareServerReport},
     {184, 184, BarCommand::MethodResults},    {187, 189, BarCommand::TitleBarPopup},
     {190, 193, BarCommand::QuickFind},        {194, 194, BarCommand::GenerateHtml},
     {195, 195, BarCommand::OpenHtml},         {196, 196, BarCommand::Help},

@@ -10,7 +10,6 @@ enum class BarCommand {
   EditorOpened,        // 101: record the new editor's file
   ActiveEditorTitle,   // 102
   RebuildMenu,         // 103
-  PlaceCaptionWindow,  // 104
   PaintButtons,        // 111
   Tasks,               // 171-173
   GroupwareMail,       // 174: mail the last report again
