@@ -92,9 +92,16 @@ void runDialog(HINSTANCE instance, HWND owner, const char* templateName, GwDialo
   DialogBoxParamA(instance, templateName, owner, gwDialogProc, reinterpret_cast<LPARAM>(&dialog));
 }
 
+// The presenter's last action, when the dialog ran one.
+template <typename Presenter>
+void keepLastAction(const Presenter& presenter, GwActionReport* last) {
+  if (!presenter.lastAction().projectFile.empty()) *last = presenter.lastAction();
+}
+
 }  // namespace
 
-void runGroupwareSendDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings) {
+void runGroupwareSendDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings,
+                            GwActionReport* last) {
   GwSendPresenter presenter(host, mail, settings);
   if (!presenter.open()) return;
   runDialog(instance, owner, "GroupwareSend",
@@ -103,9 +110,11 @@ void runGroupwareSendDialog(HINSTANCE instance, HWND owner, Host& host, Mail& ma
                                          {103, &GwSendPresenter::update},
                                          {104, &GwSendPresenter::sendAndUnlock},
                                          {105, [](GwSendPresenter& p) { p.send(); }}}));
+  keepLastAction(presenter, last);
 }
 
-void runGroupwareGetDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings) {
+void runGroupwareGetDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mail, const GroupwareSettings& settings,
+                           GwActionReport* last) {
   GwGetPresenter presenter(host, mail, settings);
   if (!presenter.open()) return;
   runDialog(instance, owner, "GroupwareGet",
@@ -115,4 +124,5 @@ void runGroupwareGetDialog(HINSTANCE instance, HWND owner, Host& host, Mail& mai
                                         {103, &GwGetPresenter::refresh},
                                         {104, &GwGetPresenter::getAndLock},
                                         {105, [](GwGetPresenter& p) { p.get(); }}}));
+  keepLastAction(presenter, last);
 }

@@ -24,8 +24,12 @@ bool groupwareRoots(Host& host, const GroupwareSettings& settings, GwRoots* root
   return true;
 }
 
-bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
-                         const std::string& report) {
-  if (flag == 0 || report.empty() || mail.recipients.count() == 0) return true;
-  return mail.send(host, subjectStart + projectNameOf(host.projectFile()), report, "") != 0;
+GwActionReport actionReport(Host& host, const std::string& subjectStart, const std::string& text) {
+  const std::string projectFile = host.projectFile();
+  return {projectFile, subjectStart + projectNameOf(projectFile), text};
+}
+
+bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const GwActionReport& report) {
+  if (flag == 0 || report.text.empty() || mail.recipients.count() == 0) return true;
+  return mail.send(host, report.subject, report.text, "") != 0;
 }

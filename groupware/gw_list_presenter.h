@@ -12,6 +12,7 @@
 #include "foundation/alert.h"
 #include "groupware/groupware_settings.h"
 #include "groupware/gw_lists.h"
+#include "groupware/gw_reports.h"
 #include "groupware/gw_transfer.h"
 #include "project/host.h"
 
@@ -22,11 +23,13 @@
 // he shared what went nowhere.
 bool groupwareRoots(Host& host, const GroupwareSettings& settings, GwRoots* roots);
 
-// Mails report with subjectStart + the project name when flag is set, the
-// report is not empty and the project has a recipient. False when that mail
-// did not go out.
-bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const std::string& subjectStart,
-                         const std::string& report);
+// The report of an action of the open project: subjectStart + the project
+// name as its subject.
+GwActionReport actionReport(Host& host, const std::string& subjectStart, const std::string& text);
+
+// Mails report when flag is set, the report is not empty and the project has a
+// recipient. False when that mail did not go out.
+bool mailGroupwareReport(Host& host, Mail& mail, int32_t flag, const GwActionReport& report);
 
 template <typename Elt>
 class GwListPresenter {
@@ -38,7 +41,9 @@ class GwListPresenter {
   const Tableau<Elt>& list() const { return list_; }
   const GwRoots& roots() const { return roots_; }
   // The report lines of the last action.
-  const std::string& report() const { return report_; }
+  const std::string& report() const { return last_.text; }
+  // The last action's report with its subject; no project file before any action.
+  const GwActionReport& lastAction() const { return last_; }
   // What failed in the last action: transfers in part, and its mail.
   int failures() const { return failures_; }
 
@@ -110,12 +115,12 @@ class GwListPresenter {
       GwTransfer transferrer(host_, roots_, progress);
       for (int32_t i = 0; i < list_.count(); ++i)
         if (selected_[i]) transfer(transferrer, *list_[i]);
-      report_ = transferrer.report();
+      last_ = actionReport(host_, subjectStart, transferrer.report());
       failures_ = transferrer.failures();
     }
     refill();
     host_.setBusy(false);
-    if (!mailGroupwareReport(host_, mail_, mailFlag, subjectStart, report_)) ++failures_;
+    if (!mailGroupwareReport(host_, mail_, mailFlag, last_)) ++failures_;
   }
 
   Host& host_;
@@ -127,6 +132,6 @@ class GwListPresenter {
  private:
   std::vector<std::string> rows_;
   std::vector<bool> selected_;
-  std::string report_;
+  GwActionReport last_;
   int failures_ = 0;
 };

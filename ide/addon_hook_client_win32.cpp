@@ -8,6 +8,8 @@
 #include "navigation/quickfind.h"
 #include "navigation/source_scanner.h"
 #include "navigation/title_bar_win32.h"
+#include "tasks/flash_window_win32.h"
+#include "tasks/task_list_dialog_win32.h"
 #include "topbar/top_bar_win32.h"
 
 namespace {
@@ -41,6 +43,7 @@ class AddonHookClient : public HookClient {
   void frameCommandSeen() override {
     if (addon().general) addon().general->resetAutoSave();
   }
+  std::vector<HWND> floatingDialogs() override { return {taskListDialog(), flashWindow()}; }
 };
 
 }  // namespace

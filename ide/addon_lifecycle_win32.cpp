@@ -34,6 +34,7 @@
 #include "tasks/task_list_dialog_win32.h"
 #include "topbar/recent_files.h"
 #include "topbar/top_bar_win32.h"
+#include "win32/active_dialog_win32.h"
 #include "win32/ide_windows_win32.h"
 
 namespace {
@@ -46,7 +47,7 @@ struct Step {
 class MessageBoxAlerts : public AlertHandler {
  public:
   int show(const std::string& text, const std::string& caption, unsigned style) override {
-    return MessageBoxA(nullptr, text.c_str(), caption.c_str(), style);
+    return MessageBoxA(activeDialog(addon().bar), text.c_str(), caption.c_str(), style);
   }
 };
 

@@ -20,6 +20,11 @@ namespace {
 
 bool titleBarPopupOpen() { return addon().hooks && addon().hooks->target().popupOpen; }
 
+// Whether the last menu opened on the bar was a title-bar popup: its command
+// arrives after the popup closed, and 177 is "Edit Documentation" there but the
+// groupware "Report..." in the bar's own menu.
+bool gLastMenuWasTitleBarPopup = false;
+
 }  // namespace
 
 bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
@@ -46,6 +51,12 @@ bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
     case BarCommand::GroupwareSend:
       groupwareSendCommand();
       return true;
+    case BarCommand::GroupwareServerReport:
+      groupwareServerReportCommand();
+      return true;
+    case BarCommand::GroupwareMail:
+      groupwareMailCommand();
+      return true;
     case BarCommand::GenerateHtml:
       generateHtmlCommand();
       return true;
@@ -56,8 +67,10 @@ bool dispatchBarCommand(HWND bar, UINT id, LPARAM lParam) {
       if (addon().helpFile) addon().helpFile->showContents();
       return true;
     case BarCommand::TitleBarPopup:
-      return id == kEditDocumentationId ? editDocumentationCommand(bar, id, lParam)
-                                        : titleBarPopupCommand(bar, id, lParam);
+      if (id != kEditDocumentationId) return titleBarPopupCommand(bar, id, lParam);
+      if (gLastMenuWasTitleBarPopup) return editDocumentationCommand(bar, id, lParam);
+      groupwareReportCommand();
+      return true;
     case BarCommand::MethodResults:
       return methodResultsCommand(bar, id, lParam);
     case BarCommand::QuickFind:
@@ -82,7 +95,8 @@ bool dispatchBarMessage(HWND bar, UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam == kBarTimer && addon().general) addon().general->timerTick(openProjectOptions() != nullptr);
       return wParam == kBarTimer;
     case WM_INITMENU:
-      if (addon().topBar && !titleBarPopupOpen()) addon().topBar->expand();
+      gLastMenuWasTitleBarPopup = titleBarPopupOpen();
+      if (addon().topBar && !gLastMenuWasTitleBarPopup) addon().topBar->expand();
       return false;
     case WM_MENUSELECT:
       // Popups, separators and the title-bar popups have no status text.

@@ -8,6 +8,8 @@
 #include "foundation/os.h"
 #include "groupware/groupware_settings.h"
 #include "groupware/gw_dialogs_win32.h"
+#include "groupware/gw_list_presenter.h"
+#include "groupware/gw_reports.h"
 #include "html/ht_generation.h"
 #include "html/ht_thread_win32.h"
 #include "ide/addon_slots_win32.h"
@@ -23,6 +25,9 @@
 #include "topbar/bar_commands.h"
 
 namespace {
+
+// The last send or get; kept for the menu's report and mail until another replaces it.
+GwActionReport gLastGroupwareAction;
 
 HINSTANCE instance() { return addon().environment ? addon().environment->instance : nullptr; }
 
@@ -49,12 +54,26 @@ void taskCommand(UINT id) {
 
 void groupwareGetCommand() {
   if (const GroupwareSettings* settings = groupwareOfProject())
-    runGroupwareGetDialog(instance(), ideFrame(), ideHost(), *addon().mail, *settings);
+    runGroupwareGetDialog(instance(), ideFrame(), ideHost(), *addon().mail, *settings, &gLastGroupwareAction);
 }
 
 void groupwareSendCommand() {
   if (const GroupwareSettings* settings = groupwareOfProject())
-    runGroupwareSendDialog(instance(), ideFrame(), ideHost(), *addon().mail, *settings);
+    runGroupwareSendDialog(instance(), ideFrame(), ideHost(), *addon().mail, *settings, &gLastGroupwareAction);
+}
+
+void groupwareReportCommand() {
+  if (groupwareOfProject()) showGroupwareReport(ideHost(), gLastGroupwareAction);
+}
+
+void groupwareServerReportCommand() {
+  const GroupwareSettings* settings = groupwareOfProject();
+  GwRoots roots;
+  if (settings && groupwareRoots(ideHost(), *settings, &roots)) showServerLocks(ideHost(), roots, settings->filters.str());
+}
+
+void groupwareMailCommand() {
+  if (groupwareOfProject()) mailGroupwareReportAgain(ideHost(), *addon().mail, gLastGroupwareAction);
 }
 
 void generateHtmlCommand() {

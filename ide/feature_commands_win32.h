@@ -9,6 +9,11 @@ void taskCommand(UINT id);
 // 175 and 176.
 void groupwareGetCommand();
 void groupwareSendCommand();
+// The groupware menu's "Report..." (177 from the bar), "Server report..." (178)
+// and "Mail..." (174), all on the open project.
+void groupwareReportCommand();
+void groupwareServerReportCommand();
+void groupwareMailCommand();
 // 194 and 195; nothing without an open project.
 void generateHtmlCommand();
 void openHtmlCommand();

@@ -2,6 +2,8 @@
 // passes everything it does not take to the next hook.
 #include "ide/hook_set_win32.h"
 
+#include <algorithm>
+
 #include "project/editor_title.h"
 #include "win32/ide_windows_win32.h"
 #include "project/key_code.h"
@@ -83,10 +85,13 @@ LRESULT CALLBACK HookSet::windowProcedureHook(int code, WPARAM wParam, LPARAM lP
 
 LRESULT CALLBACK HookSet::messageHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code >= 0 && active_) {
-    const MSG& message = *reinterpret_cast<MSG*>(lParam);
+    MSG& message = *reinterpret_cast<MSG*>(lParam);
     if (message.message == WM_COMMAND && message.wParam == kFrameCommandToWatch && message.hwnd &&
         message.hwnd == ideFrame())
       active_->client_.frameCommandSeen();
+    // A message taken by a dialog is emptied so that the IDE's loop does not
+    // translate and dispatch it a second time.
+    if (wParam == PM_REMOVE && active_->routeDialogKey(&message)) message.message = WM_NULL;
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -94,6 +99,13 @@ LRESULT CALLBACK HookSet::messageHook(int code, WPARAM wParam, LPARAM lParam) {
 LRESULT CALLBACK HookSet::keyboardHook(int code, WPARAM wParam, LPARAM lParam) {
   if (code == HC_ACTION && active_ && active_->onKey(wParam, lParam)) return 1;
   return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+bool HookSet::routeDialogKey(MSG* message) {
+  if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST || !message->hwnd) return false;
+  for (HWND dialog : client_.floatingDialogs())
+    if (dialog && (dialog == message->hwnd || IsChild(dialog, message->hwnd))) return IsDialogMessageA(dialog, message);
+  return false;
 }
 
 bool HookSet::onMouse(UINT message, const MOUSEHOOKSTRUCT& mouse) {
@@ -161,8 +173,22 @@ void HookSet::onFrameMessage(UINT message, WPARAM wParam) {
   if (message == WM_SIZE) {
     if (!client_.barFollowsFrame()) return;
     const bool visible = IsWindowVisible(bar_) != FALSE;
-    if (wParam == SIZE_MINIMIZED && visible) ShowWindow(bar_, SW_HIDE);
-    if (wParam != SIZE_MINIMIZED && !visible) ShowWindow(bar_, SW_SHOWNA);
+    if (wParam == SIZE_MINIMIZED && visible) {
+      ShowWindow(bar_, SW_HIDE);
+      for (HWND window : client_.floatingDialogs())
+        if (window && IsWindowVisible(window)) {
+          ShowWindow(window, SW_HIDE);
+          hiddenWithFrame_.push_back(window);
+        }
+    }
+    if (wParam != SIZE_MINIMIZED && !visible) {
+      ShowWindow(bar_, SW_SHOWNA);
+      // A window closed meanwhile is gone, and its handle may be another's.
+      const std::vector<HWND> open = client_.floatingDialogs();
+      for (HWND window : hiddenWithFrame_)
+        if (std::find(open.begin(), open.end(), window) != open.end()) ShowWindow(window, SW_SHOWNA);
+      hiddenWithFrame_.clear();
+    }
     return;
   }
   if (client_.barAlwaysOnTop()) return;

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 // The commands the hooks post to the bar (identifier in wParam's low word).
 enum HookCommand : UINT {
@@ -43,6 +44,10 @@ class HookClient {
   virtual bool barAlwaysOnTop() = 0;
   // The IDE's command 13104 reached the frame.
   virtual void frameCommandSeen() = 0;
+  // The add-on's open floating windows besides the bar, all modeless dialogs:
+  // they hide and show with the bar, and get their dialog keys through the
+  // hooks, which the IDE's message loop would not route to them.
+  virtual std::vector<HWND> floatingDialogs() = 0;
 };
 
 // The editor that the last title-bar click or shortcut concerns, and the
@@ -109,6 +114,8 @@ class HookSet {
   void onWindowMessage(const CWPSTRUCT& message);
   void onFrameMessage(UINT message, WPARAM wParam);
   bool onKey(WPARAM virtualKey, LPARAM flags);
+  // Gives a modeless dialog its Tab, Enter and Esc; true when it took the message.
+  bool routeDialogKey(MSG* message);
   void post(UINT command, LPARAM lParam = 0);
   // Takes a click: records the editor, raises it and posts the command.
   void takeClick(HWND editor, POINT point, POINT popup, UINT command);
@@ -121,6 +128,7 @@ class HookSet {
   HWND captureWindow_ = nullptr;
   bool suspended_ = false;
   EditorTarget target_;
+  std::vector<HWND> hiddenWithFrame_;  // shown again when the frame is restored
   // Installed in this order and removed in the same order.
   HookHandle mouse_;
   HookHandle windowProcedure_;

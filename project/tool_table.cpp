@@ -1,6 +1,8 @@
 // The IDE tools table and the choice of a tool for a file.
 #include "project/tool_table.h"
 
+#include "foundation/file_mask.h"
+
 void fillToolTable(Tableau<Tool>* table) {
   static const char* const kTools[][3] = {
       {"RunExecutable", ";.exe;", ""},
@@ -26,6 +28,10 @@ std::string findTool(const Tableau<Tool>& table, const std::string& extension, s
   }
   *windowClass = "BCW5Editor";
   return "EditText";
+}
+
+std::string alternativeTool(const std::string& fileName) {
+  return matchesAnyMask(fileName, "*.rc;*.dlg") ? "EditText" : "";
 }
 
 std::string toolResultText(int result) {

@@ -28,6 +28,12 @@ void fillToolTable(Tableau<Tool>* table);
 // "EditText" in a "BCW5Editor" window.
 std::string findTool(const Tableau<Tool>& table, const std::string& extension, std::string* windowClass);
 
+// The tool that opens the file in its other form: the text editor for the
+// resource scripts ("*.rc", "*.dlg", as Windows matches names) that the
+// resource editor opens by default. Empty when the file has one form only: the
+// text files, and the binary ones that are no use as text.
+std::string alternativeTool(const std::string& fileName);
+
 // What the status line says after a tool ran; empty for a plain success (0)
 // and for results the tool service never gives.
 std::string toolResultText(int result);

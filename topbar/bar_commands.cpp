@@ -7,17 +7,18 @@ namespace {
 
 constexpr BarCommandEntry kCommands[] = {
     {101, 101, BarCommand::EditorOpened},     {102, 102, BarCommand::ActiveEditorTitle},
-    {103, 103, BarCommand::RebuildMenu},      {104, 104, BarCommand::PlaceCaptionWindow},
-    {111, 111, BarCommand::PaintButtons},     {171, 173, BarCommand::Tasks},
+    {103, 103, BarCommand::RebuildMenu},      {111, 111, BarCommand::PaintButtons},
+    {171, 173, BarCommand::Tasks},            {174, 174, BarCommand::GroupwareMail},
     {175, 175, BarCommand::GroupwareGet},     {176, 176, BarCommand::GroupwareSend},
-    {177, 177, BarCommand::TitleBarPopup},    {184, 184, BarCommand::MethodResults},
-    {187, 189, BarCommand::TitleBarPopup},    {190, 193, BarCommand::QuickFind},
-    {194, 194, BarCommand::GenerateHtml},     {195, 195, BarCommand::OpenHtml},
-    {196, 196, BarCommand::Help},             {197, 197, BarCommand::TitleBarPopup},
-    {199, 199, BarCommand::Options},          {200, 299, BarCommand::RecentProject},
-    {300, 399, BarCommand::RunTool},          {400, 599, BarCommand::RecentHeader},
-    {700, 799, BarCommand::Include},          {800, 899, BarCommand::QuickFindResult},
-    {1000, 9999, BarCommand::Function},       {10000, 19999, BarCommand::ProjectFile},
+    {177, 177, BarCommand::TitleBarPopup},    {178, 178, BarCommand::GroupwareServerReport},
+    {184, 184, BarCommand::MethodResults},    {187, 189, BarCommand::TitleBarPopup},
+    {190, 193, BarCommand::QuickFind},        {194, 194, BarCommand::GenerateHtml},
+    {195, 195, BarCommand::OpenHtml},         {196, 196, BarCommand::Help},
+    {197, 197, BarCommand::TitleBarPopup},    {199, 199, BarCommand::Options},
+    {200, 299, BarCommand::RecentProject},    {300, 399, BarCommand::RunTool},
+    {400, 599, BarCommand::RecentHeader},     {700, 799, BarCommand::Include},
+    {800, 899, BarCommand::QuickFindResult},  {1000, 9999, BarCommand::Function},
+    {10000, 19999, BarCommand::ProjectFile},
 };
 
 std::string formatted(const char* pattern, const std::string& text) {

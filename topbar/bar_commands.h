@@ -10,12 +10,13 @@ enum class BarCommand {
   EditorOpened,        // 101: record the new editor's file
   ActiveEditorTitle,   // 102
   RebuildMenu,         // 103
-  PlaceCaptionWindow,  // 104
   PaintButtons,        // 111
   Tasks,               // 171-173
+  GroupwareMail,       // 174: mail the last report again
   GroupwareGet,        // 175
   GroupwareSend,       // 176
-  TitleBarPopup,       // 177, 187-189, 197
+  TitleBarPopup,       // 177, 187-189, 197; 177 is also the groupware "Report..."
+  GroupwareServerReport,  // 178
   MethodResults,       // 184
   QuickFind,           // 190-193
   GenerateHtml,        // 194

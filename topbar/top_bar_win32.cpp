@@ -26,14 +26,17 @@ const RecentFiles& TopBar::recent() const {
   return files ? *files : none;
 }
 
-void TopBar::runNodeTool(const ProjectNode& node) {
+void TopBar::runNodeTool(const ProjectNode& node, bool alternative) {
   const Tableau<Tool>* tools = links_.tools();
   if (!tools) return;
   std::string windowClass;
-  std::string tool = findTool(*tools, node.type, &windowClass);
-  if (tool == "EditText") {
-    const size_t dot = node.name.rfind('.');
-    if (dot != std::string::npos) tool = findTool(*tools, node.name.substr(dot), &windowClass);
+  std::string tool = alternative ? alternativeTool(node.name) : "";
+  if (tool.empty()) {
+    tool = findTool(*tools, node.type, &windowClass);
+    if (tool == "EditText") {
+      const size_t dot = node.name.rfind('.');
+      if (dot != std::string::npos) tool = findTool(*tools, node.name.substr(dot), &windowClass);
+    }
   }
   Host& host = *links_.host;
   const std::string file = projectPath(projectDirectoryOf(host.projectFile()), node.name);
@@ -140,7 +143,7 @@ void TopBar::runProjectFile(uint32_t index) {
     if (links_.quickAdd(*root, *node)) rebuildMenu();
     return;
   }
-  if (!remove) return runNodeTool(*node);
+  if (!remove) return runNodeTool(*node, alt && control);
   if (links_.removeProjectNode(*node)) rebuildMenu();
 }
 

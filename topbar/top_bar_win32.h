@@ -77,11 +77,12 @@ class TopBar {
   // Project file n as the status line and the questions name it.
   std::string projectFileName(uint32_t n) const;
   // Opens project file n; with Alt alone offers Quick add beside it, with Ctrl
-  // alone removes it from the project.
+  // alone removes it from the project, with both opens it in its other form.
   void runProjectFile(uint32_t index);
 
-  // The tool of a node (by its type, else its file's extension) run on its file.
-  void runNodeTool(const ProjectNode& node);
+  // The tool of a node (by its type, else its file's extension) run on its
+  // file; with alternative, the tool of the file's other form when it has one.
+  void runNodeTool(const ProjectNode& node, bool alternative = false);
 
   HWND bar_;
   TopBarLinks links_;

@@ -62,6 +62,11 @@ std::vector<std::string> MessageBoxWatchdog::boxes() {
   return boxes_;
 }
 
+std::vector<std::string> MessageBoxWatchdog::owners() {
+  std::lock_guard<std::mutex> lock(mutex_);
+  return owners_;
+}
+
 namespace {
 
 BOOL CALLBACK findOtherControl(HWND control, LPARAM found) {
@@ -113,10 +118,17 @@ BOOL CALLBACK MessageBoxWatchdog::answer(HWND window, LPARAM self) {
   GetWindowTextA(window, caption, sizeof caption);
   GetDlgItemTextA(window, 0xFFFF, text, sizeof text);
   const std::string box = std::string(caption) + ": " + text;
+  std::string owner;
+  if (HWND ownerWindow = GetWindow(window, GW_OWNER)) {
+    char ownerCaption[256] = {};
+    GetWindowTextA(ownerWindow, ownerCaption, sizeof ownerCaption);
+    owner = std::string(ownerCaption) + (IsWindowEnabled(ownerWindow) ? ", enabled" : ", disabled");
+  }
   auto* watchdog = reinterpret_cast<MessageBoxWatchdog*>(self);
   {
     std::lock_guard<std::mutex> lock(watchdog->mutex_);
     watchdog->boxes_.push_back(box);
+    watchdog->owners_.push_back(owner);
   }
   if (watchdog->onBox_) watchdog->onBox_(box);
   // Hidden at once, so that the next round does not count it again before it closes.

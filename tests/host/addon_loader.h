@@ -72,12 +72,16 @@ class MessageBoxWatchdog {
   MessageBoxWatchdog& operator=(const MessageBoxWatchdog&) = delete;
 
   std::vector<std::string> boxes();
+  // For each box, the caption of its owner window and whether the owner was
+  // enabled while the box was up ("Task list, disabled"); "" for none.
+  std::vector<std::string> owners();
 
  private:
   static BOOL CALLBACK answer(HWND window, LPARAM self);
   BoxListener onBox_;
   std::mutex mutex_;
   std::vector<std::string> boxes_;
+  std::vector<std::string> owners_;
   bool stopping_ = false;
   std::thread thread_;
 };

@@ -1,6 +1,7 @@
 // The groupware send and get dialogs and the quick add dialog in the IDE: the
-// buttons act on the files, the send's report is mailed, and Alt on a project
-// file adds a node beside it.
+// buttons act on the files, the send's report is mailed, the menu's reports and
+// mail work on the last action and the server, and Alt on a project file adds
+// a node beside it.
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -15,6 +16,14 @@ namespace {
 const std::string kAddon = windowsPath(KESTO_ADDON_DLL);
 
 bool readOnly(const std::string& path) { return (GetFileAttributesA(path.c_str()) & FILE_ATTRIBUTE_READONLY) != 0; }
+
+// The message window's texts of one group, each child indented by two blanks.
+std::vector<std::string> messagesOf(const TestIde& ide, const std::string& group) {
+  std::vector<std::string> texts;
+  for (const auto& message : ide.messageWindow.messages)
+    if (message.group == group) texts.push_back((message.parent ? "  " : "") + message.text);
+  return texts;
+}
 
 void remove(const std::string& path) {
   SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -76,6 +85,44 @@ TEST_F(GroupwareDialogsTest, SendUnlocksAndMailsThenGetTakesTheAdvisedFiles) {
   }
   EXPECT_EQ(readWholeFile(project_ + "\\c.cpp"), "from a colleague");
   EXPECT_EQ(mail_.text().find("GET"), std::string::npos) << "no mail after a get by default";
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty());
+}
+
+TEST_F(GroupwareDialogsTest, MenuShowsTheLastReportAndTheServerLocksAndMailsTheReport) {
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  sendBarCommand(177);
+  sendBarCommand(174);
+  EXPECT_TRUE(ide_.tools.runs.empty()) << "\"Report...\" is not \"Edit Documentation\"";
+  EXPECT_TRUE(messagesOf(ide_, "Groupware").empty());
+  EXPECT_EQ(mail_.text(), "") << "nothing to mail before a send or get";
+  EXPECT_EQ(ide_.statusLine.texts.back(), "No groupware send or get in this project yet");
+  {
+    ModalDriver driver;
+    driver.dialogTitle = "Groupware - Get files";
+    driver.dialogButtons = {104, 105, IDCANCEL};  // "Get && lock" on every row, "GET !", close
+    sendBarCommand(175);
+  }
+  ASSERT_TRUE(readOnly(server_ + "\\c.cpp")) << "locked by the get";
+  sendBarCommand(177);
+  sendBarCommand(178);
+  char user[100] = {};
+  DWORD size = sizeof user;
+  GetUserNameA(user, &size);
+  EXPECT_EQ(messagesOf(ide_, "Groupware"),
+            (std::vector<std::string>{"Groupware GET : project DEMO", "  c.cpp is locked", "Locks on " + server_,
+                                      "  c.cpp: locked by " + std::string(user) + ", Same"}));
+  EXPECT_EQ(mail_.text(), "") << "a get mails nothing by default";
+  sendBarCommand(174);
+  EXPECT_EQ(mail_.text(),
+            "subject: Groupware GET : project DEMO\nflags: 1\nowner: yes\nto: [1 team]\n"
+            "note:\nc.cpp is locked\n\n.end\n");
+  saveScreenshot("groupware-menu-reports");
+  remove(server_ + "\\c.cpp.lock");
   ide_.project.clients[0]->ProjectClosed();
   addon.stop();
   EXPECT_TRUE(watchdog.boxes().empty());

@@ -52,6 +52,7 @@ class FakeHookClient : public HookClient {
   bool barFollowsFrame() override { return true; }
   bool barAlwaysOnTop() override { return false; }
   void frameCommandSeen() override { ++frameCommands; }
+  std::vector<HWND> floatingDialogs() override { return {}; }
 
   bool navigation = true;
   TitleBarOptions options{GetModuleHandleA(nullptr), true, false};

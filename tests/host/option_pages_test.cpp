@@ -361,6 +361,8 @@ TEST_F(OptionPagesTest, RefusedValueShowsItsTextAndNothingIsStored) {
   EXPECT_EQ(watchdog_.boxes(), (std::vector<std::string>{timerBox, timerBox, timerBox, timerBox,
                                                          "Kesto Addon error: Menu size must be between 10 and 99."}))
       << "text and numbers past 32 bits read as 0, which is refused";
+  EXPECT_EQ(watchdog_.owners(), std::vector<std::string>(5, "Environment Options, disabled"))
+      << "a page's refusal holds the dialog behind it";
   addon_.stop();
 }
 

@@ -80,6 +80,9 @@ std::string TestOptionsDialog::showHint() {
 }
 
 bool TestOptionsDialog::accept() {
+  // The click on OK activates the dialog; a box closed before may have left
+  // the activation elsewhere.
+  SetActiveWindow(window_);
   for (IMpdPage* page : pages_)
     if (!page->Check()) return false;
   for (IMpdPage* page : pages_) page->Store();

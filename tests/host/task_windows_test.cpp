@@ -35,6 +35,23 @@ HWND flashShown() {
   return found;
 }
 
+// A key stroke as the IDE's thread receives it: a WM_KEYDOWN in its queue for the
+// focused control of window (window itself when nothing inside it has focus),
+// with Shift held in the thread's key state when asked.
+void strike(HWND window, WORD key, bool shift = false) {
+  BYTE keys[256] = {};
+  GetKeyboardState(keys);
+  const BYTE before = keys[VK_SHIFT];
+  keys[VK_SHIFT] = shift ? 0x80 : 0;
+  SetKeyboardState(keys);
+  HWND focus = GetFocus();
+  const UINT scan = MapVirtualKeyA(key, 0);
+  PostMessageA(focus && IsChild(window, focus) ? focus : window, WM_KEYDOWN, key, LPARAM(1) | LPARAM(scan) << 16);
+  pumpMessages(150);
+  keys[VK_SHIFT] = before;
+  SetKeyboardState(keys);
+}
+
 class TaskWindowsTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -67,7 +84,9 @@ class TaskWindowsTest : public ::testing::Test {
   std::string project_;
   TestIde ide_;
   RecordedMail mail_{"task-mail.log"};
-  MessageBoxWatchdog watchdog_;
+  MessageBoxWatchdog watchdog_{[](const std::string& box) {
+    if (box.rfind("Warning: ", 0) == 0) saveScreenshot("task-list-owned-box");
+  }};
   LoadedAddon addon_{kAddon};  // unloaded first, before the IDE's windows go
 };
 
@@ -114,6 +133,7 @@ TEST_F(TaskWindowsTest, DialogEditsTasksMailsAnEndedPublicOneAndSavesWhenClosed)
   addon_.stop();
   ASSERT_EQ(watchdog_.boxes().size(), 1u);
   EXPECT_EQ(watchdog_.boxes()[0], "Warning: Remove New task ?");
+  EXPECT_EQ(watchdog_.owners()[0], "Task list, disabled") << "the list cannot be clicked again behind its question";
 }
 
 TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) {
@@ -147,6 +167,59 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   ide_.project.clients[0]->ProjectClosed();
   addon_.stop();
   EXPECT_EQ(flashShown(), nullptr) << "the add-on takes its windows with it";
+  EXPECT_TRUE(watchdog_.boxes().empty());
+}
+
+TEST_F(TaskWindowsTest, TabEnterAndEscReachTheModelessWindowsThroughTheIdeLoop) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  HWND filter = GetDlgItem(dialog, 102);
+  SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(filter), TRUE);
+  strike(dialog, VK_TAB);
+  EXPECT_EQ(GetFocus(), GetNextDlgTabItem(dialog, filter, FALSE));
+  EXPECT_NE(GetFocus(), filter);
+  strike(dialog, VK_TAB, true);
+  EXPECT_EQ(GetFocus(), filter) << "Shift+Tab goes back";
+
+  SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, 109)), TRUE);
+  strike(dialog, VK_RETURN);
+  EXPECT_EQ(listBoxRows(dialog, 103).size(), 1u) << "Enter on \"Create\" creates";
+  saveScreenshot("task-list-keyboard");
+  strike(dialog, VK_ESCAPE);
+  EXPECT_EQ(ownDialog("Task list"), nullptr) << "Esc closes";
+
+  sendBarCommand(173);
+  HWND flash = flashShown();
+  ASSERT_NE(flash, nullptr);
+  strike(flash, VK_ESCAPE);
+  EXPECT_EQ(flashShown(), nullptr) << "Esc closes the Flash window";
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
+  EXPECT_TRUE(watchdog_.boxes().empty());
+}
+
+TEST_F(TaskWindowsTest, MinimisingTheIdeHidesEveryFloatingWindowAndRestoringShowsThem) {
+  HWND dialog = startWithTaskList();
+  ASSERT_NE(dialog, nullptr);
+  sendBarCommand(173);
+  HWND flash = flashShown();
+  ASSERT_NE(flash, nullptr);
+  HWND bar = FindWindowA("KADO", nullptr);
+  ASSERT_TRUE(IsWindowVisible(bar));
+  auto shown = [&] {
+    return std::vector<bool>{IsWindowVisible(bar) != FALSE, IsWindowVisible(dialog) != FALSE,
+                             IsWindowVisible(flash) != FALSE};
+  };
+  ShowWindow(ide_.windows.frame, SW_MINIMIZE);
+  pumpMessages(300);
+  saveScreenshot("ide-minimised");
+  EXPECT_EQ(shown(), std::vector<bool>(3, false)) << "bar, task list, flash";
+  ShowWindow(ide_.windows.frame, SW_RESTORE);
+  pumpMessages(300);
+  EXPECT_EQ(shown(), std::vector<bool>(3, true));
+  saveScreenshot("ide-restored");
+  ide_.project.clients[0]->ProjectClosed();
+  addon_.stop();
   EXPECT_TRUE(watchdog_.boxes().empty());
 }
 

@@ -174,6 +174,37 @@ TEST_F(TopBarTest, ControlOnAProjectFileAsksAndRemovesItFromTheProject) {
   addon.stop();
 }
 
+TEST_F(TopBarTest, ControlAltOpensAResourceScriptAsTextAndOtherFilesAsUsual) {
+  ide_.project.addNode(2, "app.rc", ".rc");
+  MessageBoxWatchdog watchdog;
+  LoadedAddon addon(kAddon);
+  ASSERT_TRUE(addon.start(&ide_));
+  ide_.project.clients[0]->ProjectOpened(nullptr);
+  const std::string menu = barMenu();
+  const size_t item = menu.rfind('\n', menu.find(" app.rc\n"));
+  ASSERT_NE(item, std::string::npos) << menu;
+  const UINT script = static_cast<UINT>(std::stoul(menu.substr(item + 1)));
+  HWND bar = FindWindowA("KADO", nullptr);
+  auto open = [&](UINT id, bool controlAlt) {
+    BYTE keys[256];
+    GetKeyboardState(keys);
+    keys[VK_CONTROL] = keys[VK_MENU] = controlAlt ? 0x80 : 0;
+    SetKeyboardState(keys);
+    SendMessageA(bar, WM_COMMAND, id, 0);
+    keys[VK_CONTROL] = keys[VK_MENU] = 0;
+    SetKeyboardState(keys);
+    return ide_.tools.runs.empty() ? std::string() : ide_.tools.runs.back().tool;
+  };
+  EXPECT_EQ(open(script, false), "EditResource");
+  EXPECT_EQ(open(script, true), "EditText");
+  EXPECT_EQ(ide_.tools.runs.back().file.substr(ide_.tools.runs.back().file.size() - 7), "\\app.rc");
+  EXPECT_EQ(open(10000, true), "EditText") << "a text file has one form";
+  EXPECT_EQ(ide_.tools.runs.size(), 3u);
+  ide_.project.clients[0]->ProjectClosed();
+  addon.stop();
+  EXPECT_TRUE(watchdog.boxes().empty()) << "neither removed nor added";
+}
+
 TEST_F(TopBarTest, ExpandsToEveryRowWhileAMenuIsOpenAndRemembersProjectsAcrossLoads) {
   MessageBoxWatchdog watchdog;
   // Many targets wrap the menu bar on several rows.

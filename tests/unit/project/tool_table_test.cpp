@@ -45,3 +45,11 @@ TEST(ToolTableTest, ResultTexts) {
   EXPECT_EQ(toolResultText(3), "Tool: Fatal error");
   EXPECT_EQ(toolResultText(4), "");
 }
+
+TEST(ToolTableTest, OnlyResourceScriptsHaveAnotherForm) {
+  EXPECT_EQ(alternativeTool("src\\APP.RC"), "EditText") << "names match as Windows matches them";
+  EXPECT_EQ(alternativeTool("about.dlg"), "EditText");
+  EXPECT_EQ(alternativeTool("app.res"), "") << "binary: no use as text";
+  EXPECT_EQ(alternativeTool("main.cpp"), "") << "already text";
+  EXPECT_EQ(alternativeTool("rc"), "");
+}

@@ -57,7 +57,7 @@ TEST(BarCommandsTest, RangesAndStatusTexts) {
   EXPECT_EQ(index, 42u);
   EXPECT_EQ(barCommandFor(599, &index), BarCommand::RecentHeader);
   EXPECT_EQ(barCommandFor(188, &index), BarCommand::TitleBarPopup);
-  EXPECT_EQ(barCommandFor(174, &index), BarCommand::None);
+  EXPECT_EQ(barCommandFor(179, &index), BarCommand::None);
   EXPECT_EQ(barCommandFor(600, &index), BarCommand::None);
   BarItemNames names;
   names.recentProject = [](uint32_t n) { return "c:\\p" + std::to_string(n) + ".ide"; };
