@@ -20,18 +20,17 @@ std::string text(HWND window, int id) {
   return buffer;
 }
 
+// A WNDENUMPROC is __stdcall on i686, which a lambda is not.
+BOOL CALLBACK findFlash(HWND window, LPARAM found) {
+  char title[128] = {};
+  GetWindowTextA(window, title, sizeof title);
+  if (IsWindowVisible(window) && std::string(title).rfind("Flash : ", 0) == 0) *reinterpret_cast<HWND*>(found) = window;
+  return TRUE;
+}
+
 HWND flashShown() {
   HWND found = nullptr;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM found) {
-        char title[128] = {};
-        GetWindowTextA(window, title, sizeof title);
-        if (IsWindowVisible(window) && std::string(title).rfind("Flash : ", 0) == 0)
-          *reinterpret_cast<HWND*>(found) = window;
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&found));
+  EnumThreadWindows(GetCurrentThreadId(), findFlash, reinterpret_cast<LPARAM>(&found));
   return found;
 }
 
