@@ -133,10 +133,11 @@ bool saveScreenshot(const std::string& name) {
   STARTUPINFOA startup = {};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process = {};
+  // A Unix program gets no process or thread handle: Wine leaves both fields as
+  // whatever its own stack held, often a live handle of this process (the 32-bit
+  // build's watchdog thread, whose join then fails), so they are not closed.
   if (!CreateProcessA(nullptr, &command[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
     return false;
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
   for (int waited = 0; waited < 200; ++waited) {
     if (GetFileAttributesA(windowsFile.c_str()) != INVALID_FILE_ATTRIBUTES) return true;
     Sleep(50);
