@@ -5,8 +5,8 @@
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "delivery/delivery_run.h"
+#include "delivery/delivery_selection.h"
 #include "foundation/alert.h"
-#include "foundation/os.h"
 #include "foundation/settings.h"
 #include "tasks/task_list.h"
 
@@ -45,7 +45,7 @@ bool groupsHaveDirectories(CliSession& session) {
     const OneDelRep* group = groups[i];
     const std::string type = group->type.str();
     const std::string directory = group->directory.str();
-    if (!directory.empty() && os().exists(projectPath(session.projectDirectory(), directory))) continue;
+    if (deliveryDirectoryExists(session.projectDirectory(), directory)) continue;
     reportError("group " + type + (directory.empty() ? " has no delivery directory" : ": " + directory + " does not exist") +
                 ": kesto delivery set " + type + " --dir DIR");
     complete = false;
@@ -90,7 +90,7 @@ void setGroup(CliSession& session, const DeliveryArguments& args) {
     session.exitStatus = kExitUsage;
     return;
   }
-  if (!args.directory.empty() && !os().exists(projectPath(session.projectDirectory(), args.directory))) {
+  if (!args.directory.empty() && !deliveryDirectoryExists(session.projectDirectory(), args.directory)) {
     reportError("delivery directory " + args.directory + " does not exist");
     session.exitStatus = kExitUsage;
     return;

@@ -53,6 +53,10 @@ bool needsDelivery(const std::string& source, const std::string& directory) {
   return !delivered || !sameContents(*in, *delivered);
 }
 
+bool deliveryDirectoryExists(const std::string& projectDirectory, const std::string& directory) {
+  return !directory.empty() && os().exists(projectPath(projectDirectory, directory));
+}
+
 bool selectDeliveries(Tableau<OneDelRep>& groups, const ProjectNode* root, const std::string& projectDirectory,
                       Tableau<Livrage>* deliveries) {
   deliveries->clear();
@@ -61,8 +65,7 @@ bool selectDeliveries(Tableau<OneDelRep>& groups, const ProjectNode* root, const
   if (!delivery) return true;
   for (int32_t i = 0; i < groups.count(); ++i) {
     const std::string directory = groups[i]->directory.str();
-    // A group not yet given a directory must not deliver into the project's own.
-    if (directory.empty() || !os().exists(projectPath(projectDirectory, directory))) {
+    if (!deliveryDirectoryExists(projectDirectory, directory)) {
       alert("Directory " + directory + " does not exist !\nChange it !", "Kesto AddOn error", kAlertIconHand);
       return false;
     }

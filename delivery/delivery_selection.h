@@ -23,6 +23,11 @@ class Livrage : public Basic {
 // is never delivered; a copy that cannot be read is delivered again.
 bool needsDelivery(const std::string& source, const std::string& directory);
 
+// A group's delivery directory, taken from the project directory when relative,
+// is there. An empty one never is: a group not yet given a directory must not
+// deliver into the project's own.
+bool deliveryDirectoryExists(const std::string& projectDirectory, const std::string& directory);
+
 // Rebuilds the groups and fills deliveries with the files of active groups that
 // need delivery. False (deliveries empty) after showing "Directory ... does not
 // exist !" for the first group whose directory is missing.
