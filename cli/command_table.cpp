@@ -1,6 +1,8 @@
 // The table of kesto's command groups.
 #include "cli/command_table.h"
 
+#include "cli/cli_session.h"
+
 const char* kestoVersion() { return KESTO_VERSION; }
 
 const std::vector<CommandGroup>& commandGroups() {
@@ -29,6 +31,25 @@ const std::vector<CommandGroup>& commandGroups() {
       {"recent", "List the top bar's recent projects and headers", installRecentCommand},
       {"bar", "Print the top bar's menus for the project", installBarCommand},
       {"gw", "Exchange files with the project's groupware server: send, get, locks", installGroupwareCommands},
+      {"completion", "Print the completion script of a shell (bash, zsh or fish) for kesto",
+       installShellCompletionCommand},
   };
   return groups;
+}
+
+const char* const kAllCommands = "*";
+
+void installCommandLine(CLI::App& app, CliSession& session, const std::string& command) {
+  app.description("Kesto AddOn on the command line: navigation, completion, tasks, documentation and generators.");
+  app.name("kesto");
+  app.set_version_flag("--version", std::string("kesto ") + kestoVersion());
+  app.require_subcommand(1);
+  app.fallthrough();
+  app.add_option("--project", session.projectOption, "Project file (default: the one *.kpj here)");
+  auto* yes = app.add_flag("--yes", session.host().answerYes, "Answer Yes to every question");
+  app.add_flag("--no", session.host().answerNo, "Answer No to every question")->excludes(yes);
+  for (const CommandGroup& group : commandGroups()) {
+    CLI::App* subcommand = app.add_subcommand(group.name, group.summary);
+    if (command == group.name || command == kAllCommands) group.install(*subcommand, session);
+  }
 }

@@ -18,6 +18,14 @@ const char* kestoVersion();
 // Every command group, in the order of the help text.
 const std::vector<CommandGroup>& commandGroups();
 
+// installCommandLine's command that installs the options of every group.
+extern const char* const kAllCommands;
+
+// Sets up kesto's parser: its name, the global options, and every command
+// group, of which only `command` (or all, for kAllCommands) gets its options
+// and subcommands: a run pays for its own command alone.
+void installCommandLine(CLI::App& app, CliSession& session, const std::string& command);
+
 // The installers, one per command file.
 void installSettingsCommands(CLI::App& command, CliSession& session);
 void installProjectCommands(CLI::App& command, CliSession& session);
@@ -41,3 +49,4 @@ void installMakeCommand(CLI::App& command, CliSession& session);
 void installRecentCommand(CLI::App& command, CliSession& session);
 void installBarCommand(CLI::App& command, CliSession& session);
 void installGroupwareCommands(CLI::App& command, CliSession& session);
+void installShellCompletionCommand(CLI::App& command, CliSession& session);

@@ -46,19 +46,8 @@ int main(int argc, char** argv) {
   // The searches, which print many lines fast, set their own buffer.
   if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOLBF, 1 << 16);
   CliSession session;
-  CLI::App app{"Kesto AddOn on the command line: navigation, completion, tasks, documentation and generators."};
-  app.name("kesto");
-  app.set_version_flag("--version", std::string("kesto ") + kestoVersion());
-  app.require_subcommand(1);
-  app.fallthrough();
-  app.add_option("--project", session.projectOption, "Project file (default: the one *.kpj here)");
-  auto* yes = app.add_flag("--yes", session.host().answerYes, "Answer Yes to every question");
-  app.add_flag("--no", session.host().answerNo, "Answer No to every question")->excludes(yes);
-  // Only the command given gets its options: a run pays for its own command alone.
-  for (const CommandGroup& group : commandGroups()) {
-    CLI::App* subcommand = app.add_subcommand(group.name, group.summary);
-    if (command == group.name) group.install(*subcommand, session);
-  }
+  CLI::App app;
+  installCommandLine(app, session, command);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
