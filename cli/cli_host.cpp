@@ -69,6 +69,7 @@ void CliHost::showProgress(uint64_t done, uint64_t total, const std::string& ite
 void CliHost::endProgress() { progress_.reset(); }
 
 Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, const std::string& text) {
+  if (located_) return ++lastMessage_;
   if (progress_) progress_->interrupt();
   std::cout << text << '\n';
   if (oneTerminal()) messages_.insert(text);
@@ -77,6 +78,10 @@ Host::MessageHandle CliHost::addMessage(const MessageGroup&, MessageHandle, cons
 
 Host::MessageHandle CliHost::addLocatedMessage(const MessageGroup&, MessageHandle, const std::string& text,
                                                const std::string& file, int32_t line, uint16_t column, int32_t) {
+  if (located_) {
+    located_->push_back({file, line, text});
+    return ++lastMessage_;
+  }
   std::cout << file << ':' << line << ':' << column << ": " << text << '\n';
   return ++lastMessage_;
 }

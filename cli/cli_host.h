@@ -47,6 +47,16 @@ class CliHost : public Host, public AlertHandler {
   void holdStatus();
   void releaseStatus(const std::vector<std::string>& results);
 
+  // While a sink is set, located message lines go to it instead of standard
+  // output and the other message lines (headers) are dropped: --json prints
+  // the lines as one document at the end.
+  struct LocatedLine {
+    std::string file;
+    int32_t line;
+    std::string text;
+  };
+  void collectLocatedMessages(std::vector<LocatedLine>* sink) { located_ = sink; }
+
   // Boxes print "CAPTION: TEXT" on standard error (on a terminal shared with
   // standard output, not when a message line already said TEXT); a question is asked on a
   // terminal and otherwise answered by --yes/--no (No when neither was given).
@@ -58,5 +68,6 @@ class CliHost : public Host, public AlertHandler {
   std::vector<std::string> held_;
   std::set<std::string> messages_;  // texts of the message lines, on a shared terminal
   MessageHandle lastMessage_ = 0;
+  std::vector<LocatedLine>* located_ = nullptr;
   std::unique_ptr<ProgressBar> progress_;
 };

@@ -11,6 +11,7 @@
 #include "cli/command_table.h"
 #include "cli/file_arguments.h"
 #include "cli/integer_options.h"
+#include "cli/json_output.h"
 #include "foundation/menu_model.h"
 #include "navigation/include_search.h"
 #include "navigation/navigation_menus.h"
@@ -28,6 +29,7 @@ struct NavigationArguments {
   bool unsorted = false;
   int32_t size = 0;  // 0: the "Menus" setting
   bool menu = false;
+  bool json = false;
 };
 
 // The scanner reads a file it cannot open as an empty one, which would say
@@ -47,11 +49,17 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
     return;
   }
   const Tableau<Fnc>& functions = scanner.functions();
+  JsonDocument document = JsonDocument::array();
   for (int32_t i = 0; i < functions.count(); ++i) {
     const Fnc& entry = *functions[i];
-    std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
-              << '\n';
+    if (args.json)
+      document.push_back(
+          {{"id", kFirstFunctionId + i}, {"line", entry.line()}, {"class", entry.className()}, {"name", entry.name()}});
+    else
+      std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
+                << '\n';
   }
+  if (args.json) printJson(document);
 }
 
 void listIncludes(CliSession& session, const NavigationArguments& args) {
@@ -79,9 +87,24 @@ void locateInclude(CliSession& session, const NavigationArguments& args) {
     session.exitStatus = kExitNothing;
 }
 
-void printHit(const std::string& file, int32_t line, const std::string& text) {
-  std::cout << file << ':' << line << ": " << text << '\n';
-}
+// The hits of find, as lines or as one document at the end.
+class HitPrinter {
+ public:
+  explicit HitPrinter(bool json) : json_(json) {}
+  ~HitPrinter() {
+    if (json_) printJson(document_);
+  }
+  void print(const std::string& file, int32_t line, const std::string& text) {
+    if (json_)
+      document_.push_back({{"file", file}, {"line", line}, {"text", text}});
+    else
+      std::cout << file << ':' << line << ": " << text << '\n';
+  }
+
+ private:
+  bool json_;
+  JsonDocument document_ = JsonDocument::array();
+};
 
 // An empty text ends a QuickFind command silently, as an empty prompt does. A
 // name longer than the prompt's slot is refused: cut, it would find the hits
@@ -102,18 +125,20 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
   if (!searchable(session, name)) return;
   QuickFind quickFind;
   QuickHit hit;
+  HitPrinter printer(args.json);
   bool found = false;
   if (command == kQuickMethod) {
     found = quickFind.findMethods(session.host(), name, args.from);
     const Tableau<QuickResu>& results = quickFind.methodResults();
-    for (int32_t i = 0; i < results.count(); ++i) printHit(results[i]->file(), results[i]->line(), results[i]->text());
+    for (int32_t i = 0; i < results.count(); ++i)
+      printer.print(results[i]->file(), results[i]->line(), results[i]->text());
   } else {
     session.host().holdStatus();
     found = command == kQuickFunction ? quickFind.findFunction(session.host(), name, args.from, &hit)
                                       : quickFind.findClass(session.host(), name, args.from, &hit);
     // The status line of a hit names its place as "PATH : LINE".
     session.host().releaseStatus({hit.file + " : " + std::to_string(hit.line)});
-    if (found) printHit(hit.file, hit.line, hit.text);
+    if (found) printer.print(hit.file, hit.line, hit.text);
   }
   if (!found) session.exitStatus = kExitNothing;
 }
@@ -124,8 +149,16 @@ void crossReference(CliSession& session, const NavigationArguments& args) {
   // Hundreds of thousands of hits are written far faster through a large buffer
   // than through the default one of 4 kB; a terminal keeps its line buffering.
   if (!isatty(STDOUT_FILENO)) std::setvbuf(stdout, nullptr, _IOFBF, 1 << 16);
+  std::vector<CliHost::LocatedLine> uses;
+  if (args.json) session.host().collectLocatedMessages(&uses);
   QuickFind quickFind;
   if (!quickFind.crossReference(session.host(), name)) session.exitStatus = kExitNothing;
+  session.host().collectLocatedMessages(nullptr);
+  if (!args.json) return;
+  JsonDocument document = JsonDocument::array();
+  for (const CliHost::LocatedLine& use : uses)
+    document.push_back({{"file", use.file}, {"line", use.line}, {"text", use.text}});
+  printJson(document);
 }
 
 }  // namespace
@@ -136,6 +169,7 @@ void installFunctionsCommand(CLI::App& command, CliSession& session) {
   command.add_flag("--unsorted", args->unsorted, "Keep file order instead of sorting by class, then name");
   addIntegerOption(command, "--size", args->size, "Items per menu column (default: the Menus setting Size)", 1);
   command.add_flag("--menu", args->menu, "Print the menu (ID TEXT, submenus indented, -- before a new column)");
+  addJsonFlag(command, args->json);
   command.footer("Prints ID<TAB>LINE<TAB>CLASS<TAB>NAME per entry, in menu order.");
   command.callback([&session, args] { listFunctions(session, *args); });
 }
@@ -164,6 +198,7 @@ void installFindCommands(CLI::App& command, CliSession& session) {
       ->check(CLI::IsMember({"function", "method", "class"}));
   command.add_option("name", args->name, "Name to find")->required();
   command.add_option("--from", args->from, "File whose project node gives the source and include paths");
+  addJsonFlag(command, args->json);
   command.footer("Prints PATH:LINE: TEXT: the matching line of the first hit, or Class::Name for every method.");
   command.callback([&session, args] { findDefinition(session, *args, kinds.at(args->kind)); });
 }
@@ -171,6 +206,7 @@ void installFindCommands(CLI::App& command, CliSession& session) {
 void installXrefCommand(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<NavigationArguments>();
   command.add_option("name", args->name, "Name whose uses inside bodies are listed")->required();
+  addJsonFlag(command, args->json);
   command.footer("Prints a header line, then PATH:LINE:1: LINE per use, in the order found.");
   command.callback([&session, args] { crossReference(session, *args); });
 }

@@ -6,6 +6,7 @@
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "cli/integer_options.h"
+#include "cli/json_output.h"
 #include "cli/known_settings.h"
 #include "foundation/regedit_text.h"
 #include "foundation/settings.h"
@@ -19,15 +20,21 @@ struct SettingsArguments {
   std::string defaultText;
   bool hasDefault = false;
   bool all = false;
+  bool json = false;
 };
 
-void printSection(SettingsBackend& backend, const std::string& section, bool withSection) {
+// Lines, or the rows of the --json document when one is given.
+void printSection(SettingsBackend& backend, const std::string& section, bool withSection, JsonDocument* document) {
   std::vector<SettingsValue> values;
   if (backend.list(settings().keyPath(section), &values))
-    for (const SettingsValue& value : values)
-      std::cout << (withSection ? section + "\t" : "") << value.name << '\t' << value.text << '\n';
+    for (const SettingsValue& value : values) {
+      if (document)
+        document->push_back({{"section", section}, {"name", value.name}, {"value", value.text}});
+      else
+        std::cout << (withSection ? section + "\t" : "") << value.name << '\t' << value.text << '\n';
+    }
   for (const std::string& sub : backend.subkeys(settings().keyPath(section)))
-    if (withSection) printSection(backend, section + "\\" + sub, true);
+    if (withSection) printSection(backend, section + "\\" + sub, true, document);
 }
 
 void get(CliSession& session, const SettingsArguments& args) {
@@ -64,27 +71,35 @@ std::string effectiveValue(const KnownSetting& setting) {
 }
 
 // Every known setting: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default.
-void listKnown(const SettingsArguments& args) {
+void listKnown(const SettingsArguments& args, JsonDocument* document) {
   for (const KnownSetting& setting : knownSettings()) {
     if (!args.section.empty() && foldedCase(args.section) != foldedCase(setting.section)) continue;
     std::string stored;
     bool isSet = settings().readString(setting.section, setting.name, &stored, nullptr);
-    std::cout << (args.section.empty() ? std::string(setting.section) + "\t" : "") << setting.name << '\t'
-              << effectiveValue(setting) << '\t' << setting.fallback << '\t' << (isSet ? "set" : "default") << '\n';
+    if (document)
+      document->push_back({{"section", setting.section},
+                           {"name", setting.name},
+                           {"value", effectiveValue(setting)},
+                           {"default", setting.fallback},
+                           {"set", isSet}});
+    else
+      std::cout << (args.section.empty() ? std::string(setting.section) + "\t" : "") << setting.name << '\t'
+                << effectiveValue(setting) << '\t' << setting.fallback << '\t' << (isSet ? "set" : "default")
+                << '\n';
   }
 }
 
 void list(CliSession& session, const SettingsArguments& args) {
-  if (args.all) {
-    listKnown(args);
-    return;
-  }
+  JsonDocument rows = JsonDocument::array();
+  JsonDocument* document = args.json ? &rows : nullptr;
   SettingsBackend& backend = session.settingsFile();
-  if (!args.section.empty()) {
-    printSection(backend, args.section, false);
-    return;
-  }
-  for (const std::string& section : backend.subkeys(settings().root())) printSection(backend, section, true);
+  if (args.all)
+    listKnown(args, document);
+  else if (!args.section.empty())
+    printSection(backend, args.section, false, document);
+  else
+    for (const std::string& section : backend.subkeys(settings().root())) printSection(backend, section, true, document);
+  if (document) printJson(rows);
 }
 
 }  // namespace
@@ -110,5 +125,6 @@ void installSettingsCommands(CLI::App& command, CliSession& session) {
   listCommand->add_option("section", args->section, "Section (default: every section)");
   listCommand->add_flag("--all", args->all,
                         "Every known setting, stored or not: [SECTION<TAB>]NAME<TAB>VALUE<TAB>DEFAULT<TAB>set|default");
+  addJsonFlag(*listCommand, args->json);
   listCommand->callback([&session, args] { list(session, *args); });
 }

@@ -1,5 +1,6 @@
 // kesto tasks ... and kesto flash: the project's task list, driven through the
 // same presenter as the task list dialog.
+#include <cstdio>
 #include <iostream>
 #include <map>
 #include <memory>
@@ -8,6 +9,7 @@
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "cli/integer_options.h"
+#include "cli/json_output.h"
 #include "delivery/mail.h"
 #include "foundation/text_encoding.h"
 #include "tasks/date_entry.h"
@@ -39,6 +41,7 @@ struct TaskArguments {
   bool reverse = false;
   std::string flagState;
   bool automatic = false;
+  bool json = false;
 };
 
 // The project's tasks as the dialog sees them, saved afterwards when changed.
@@ -175,11 +178,40 @@ std::function<void()> withTasks(CliSession& session, Action action) {
   };
 }
 
-void list(TaskSession& session) {
-  // The row number first: the one that edit and remove take.
+std::string isoDate(const SystemTime& date) {
+  char text[24];
+  std::snprintf(text, sizeof text, "%04u-%02u-%02u", date.year, date.month, date.day);
+  return text;
+}
+
+// Dates in ISO form and the text's lines joined by LF: a script needs no locale
+// to read them.
+JsonDocument taskDocument(size_t row, const Task& task) {
+  std::string text;
+  for (char c : task.text.str())
+    if (c != '\r') text += c;
+  return {{"row", row},
+          {"name", task.name.str()},
+          {"type", task.type.str()},
+          {"state", stateWord(task.state, false)},
+          {"public", task.isPublic != 0},
+          {"priority", task.priority},
+          {"start", isoDate(task.start)},
+          {"end", isoDate(task.end)},
+          {"text", text}};
+}
+
+void list(TaskSession& session, bool json) {
   const std::vector<std::string>& rows = session.presenter().rows();
-  for (size_t row = 0; row < rows.size(); ++row) std::cout << row << '\t' << rows[row] << '\n';
-  if (session.presenter().rows().empty()) session.cli().exitStatus = kExitNothing;
+  if (json) {
+    JsonDocument document = JsonDocument::array();
+    for (size_t row = 0; row < rows.size(); ++row) document.push_back(taskDocument(row, *session.tasks().view[row]));
+    printJson(document);
+  } else {
+    // The row number first: the one that edit and remove take.
+    for (size_t row = 0; row < rows.size(); ++row) std::cout << row << '\t' << rows[row] << '\n';
+  }
+  if (rows.empty()) session.cli().exitStatus = kExitNothing;
 }
 
 // Prints the new task's row when it is in the list.
@@ -232,9 +264,10 @@ void flash(TaskSession& session, const TaskArguments& args) {
 
 void installTasksCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<TaskArguments>();
+  addJsonFlag(command, args->json);
   command.footer("Prints ROW<TAB>NAME<TAB>TYPE<TAB>STATE<TAB>PRIORITY<TAB>START<TAB>END per task.");
-  command.callback([&command, &session] {
-    if (command.get_subcommands().empty()) withTasks(session, list)();
+  command.callback([&command, &session, args] {
+    if (command.get_subcommands().empty()) withTasks(session, [args](TaskSession& s) { list(s, args->json); })();
   });
 
   CLI::App* addCommand = command.add_subcommand("add", "Create a task like \"Create\", then apply the options given; prints its row");

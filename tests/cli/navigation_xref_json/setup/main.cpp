@@ -1,0 +1,5 @@
+void frame()
+{
+	RePaint();
+	Paint(2);
+}
