@@ -88,7 +88,13 @@ void complete(CliSession& session, const CompleteArguments& args, bool wholeLine
   CompletionEngine engine;
   engine.readSettings();
   std::string skipped;
-  if (!engine.load(&skipped)) reportError(skipped);
+  std::vector<std::string> damaged;
+  if (!engine.load(&skipped, &damaged)) reportError(skipped);
+  for (const std::string& fault : damaged) reportError(fault);
+  if (!damaged.empty()) {
+    session.exitStatus = kExitUsage;
+    return;
+  }
   std::string statePath = completionStatePath();
   std::string lastShown;
   if (os().exists(statePath) && os().readFile(statePath, &lastShown, nullptr))

@@ -5,6 +5,7 @@
 
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
+#include "cli/json_output.h"
 #include "delivery/mail.h"
 #include "foundation/os.h"
 #include "groupware/gw_get_presenter.h"
@@ -120,7 +121,7 @@ std::shared_ptr<ListArguments> installList(CLI::App& command, CliSession& sessio
   return args;
 }
 
-void listLocks(CliSession& session) {
+void listLocks(CliSession& session, bool json) {
   GroupwareSettings settings;
   if (!openGroupware(session, &settings)) return;
   GwRoots roots;
@@ -130,15 +131,30 @@ void listLocks(CliSession& session) {
   }
   GWgetList list;
   fillGetList(list, roots, settings.filters.str());
+  JsonDocument document = JsonDocument::array();
   bool any = false;
+  bool damaged = false;
   for (int32_t i = 0; i < list.count(); ++i) {
     if (list[i]->locked == 0) continue;
     std::string user;
-    readLockFile(list[i]->path.str(), &user, nullptr);
-    std::cout << listedName(roots.server, list[i]->path.str()) << '\t' << user << '\n';
+    std::string err;
+    // A damaged record is named and left as it is; its file is still listed.
+    if (readLockFile(list[i]->path.str(), &user, &err) == LockRecord::Damaged) {
+      reportError(err);
+      damaged = true;
+    }
+    std::string name = listedName(roots.server, list[i]->path.str());
+    if (json)
+      document.push_back({{"file", name}, {"holder", user}});
+    else
+      std::cout << name << '\t' << user << '\n';
     any = true;
   }
-  if (!any) session.exitStatus = kExitNothing;
+  if (json) printJson(document);
+  if (damaged)
+    session.exitStatus = kExitUsage;
+  else if (!any)
+    session.exitStatus = kExitNothing;
 }
 
 }  // namespace
@@ -163,6 +179,8 @@ void installGroupwareCommands(CLI::App& command, CliSession& session) {
                              "\"GET !\": copy the requested files from the server");
   get->add_flag("--steal", getArgs->steal,
                 "Take over a lock that someone else took after the list was made (refused otherwise)");
-  command.add_subcommand("locks", "List the locked server files with the user who took each lock")
-      ->callback([&session] { listLocks(session); });
+  CLI::App* locks = command.add_subcommand("locks", "List the locked server files with the user who took each lock");
+  auto json = std::make_shared<bool>(false);
+  addJsonFlag(*locks, *json);
+  locks->callback([&session, json] { listLocks(session, *json); });
 }

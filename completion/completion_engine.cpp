@@ -31,7 +31,7 @@ bool CompletionEngine::writeSettings() const {
   return store.writeList(kSection, kFilesList, files) && ok;
 }
 
-bool CompletionEngine::load(std::string* err) {
+bool CompletionEngine::load(std::string* err, std::vector<std::string>* damaged) {
   keywords_.clear();
   fileBytes_.clear();
   lastMatch_ = -1;
@@ -43,6 +43,9 @@ bool CompletionEngine::load(std::string* err) {
       *err += (err->empty() ? "" : "; ") + std::string("keyword file skipped: ") + reason;
       continue;
     }
+    size_t line = 0;
+    if (damaged && !keywordFileIsSound(bytes, &line, &reason))
+      damaged->push_back(path + ":" + std::to_string(line) + ": " + reason);
     fileBytes_.push_back(std::move(bytes));
     parseKeywordFile(fileBytes_.back(), &keywords_);
   }

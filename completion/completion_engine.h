@@ -36,8 +36,9 @@ class CompletionEngine {
   // Empties the keyword list and reads every file of the list in order; a file
   // that cannot be read is skipped, and named with its reason in *err (false).
   // The list is then sorted by keyword bytes, keywords that are equal keeping
-  // their file order.
-  bool load(std::string* err);
+  // their file order. With damaged given, each file that keywordFileIsSound
+  // refuses is named there as "PATH:LINE: reason" (and read all the same).
+  bool load(std::string* err, std::vector<std::string>* damaged = nullptr);
 
   // Matches prefix against the keywords. The text is what the matches share
   // beyond the prefix; statusText() and lastMatch() tell the rest.

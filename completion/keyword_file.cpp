@@ -20,3 +20,23 @@ void addEntry(std::string_view line, std::vector<KeywordEntry>* entries) {
 void parseKeywordFile(std::string_view bytes, std::vector<KeywordEntry>* entries) {
   forEachReadLine(bytes, kKeywordLineText, [entries](std::string_view line) { addEntry(line, entries); });
 }
+
+bool keywordFileIsSound(std::string_view bytes, size_t* line, std::string* reason) {
+  *line = 0;
+  for (size_t start = 0; start < bytes.size();) {
+    ++*line;
+    size_t end = bytes.find('\n', start);
+    std::string_view text = bytes.substr(start, end == std::string_view::npos ? std::string_view::npos : end - start);
+    if (text.find('\0') != std::string_view::npos) {
+      *reason = "a zero byte: this is not a text file";
+      return false;
+    }
+    if (!text.empty() && text.front() == '|') {
+      *reason = "an entry with no keyword before \"|\"";
+      return false;
+    }
+    if (end == std::string_view::npos) break;
+    start = end + 1;
+  }
+  return true;
+}

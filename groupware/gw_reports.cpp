@@ -46,7 +46,11 @@ void showServerLocks(Host& host, const GwRoots& roots, const std::string& filter
     ++locked;
     std::string holder;
     std::string err;
-    if (!readLockFile(element.path.str(), &holder, &err) || holder.empty()) holder = "nobody on record";
+    switch (readLockFile(element.path.str(), &holder, &err)) {
+      case LockRecord::Absent: holder = "nobody on record"; break;
+      case LockRecord::Damaged: holder = "a damaged record (" + err + ")"; break;
+      case LockRecord::Read: break;
+    }
     host.addMessage(kGroupwareGroup, parent,
                     listedName(roots.server, element.path.str()) + ": locked by " + holder + ", " + ageWord(element.age));
   }

@@ -60,7 +60,8 @@ bool GwTransfer::setReadOnly(const std::string& path, bool readOnly) {
 bool GwTransfer::freeForUser(const std::string& server, const std::string& name, const std::string& user) {
   if (!isReadOnly(server)) return true;
   std::string holder;
-  if (readLockFile(server, &holder, nullptr) && !user.empty() && holder == user) return true;
+  std::string err;
+  if (readLockFile(server, &holder, &err) == LockRecord::Read && !user.empty() && holder == user) return true;
   ++failures_;
   host_.showStatus(name + " is locked by " + (holder.empty() ? "an unknown user" : holder));
   return false;

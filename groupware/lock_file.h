@@ -16,5 +16,14 @@ bool writeLockFile(const std::string& serverFile, const std::string& user, std::
 // or LF (a hand-edited file may end its line), at most kMaxUserName characters.
 std::string lockHolderOf(const std::string& bytes);
 
-// False when the lock file cannot be read (no one ever took the lock).
-bool readLockFile(const std::string& serverFile, std::string* user, std::string* err);
+// A record is one line holding the name. False, with the line (from 1) and the
+// reason, when the bytes are something else (a second line, no name, a control
+// code, a name too long), as a hand edit or another program leaves them.
+bool lockRecordIsSound(const std::string& bytes, size_t* line, std::string* reason);
+
+enum class LockRecord {
+  Absent,   // the file cannot be read (no one ever took the lock); err says why
+  Damaged,  // user holds what lockHolderOf reads; err names the file, the line and the fault
+  Read,
+};
+LockRecord readLockFile(const std::string& serverFile, std::string* user, std::string* err);

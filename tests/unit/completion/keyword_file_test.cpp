@@ -38,3 +38,15 @@ TEST(KeywordFileTest, LongLinesArriveInPiecesOfTheReadBuffer) {
   std::string past = std::string(398, 'b') + "tail";
   EXPECT_EQ(entries(atLimit + "\r\n" + past + "\n"), (std::vector<std::string>{atLimit + "=", std::string(398, 'b') + "=", "tail="}));
 }
+
+TEST(KeywordFileTest, DamageIsNamedWithItsLine) {
+  size_t line = 0;
+  std::string reason;
+  EXPECT_TRUE(keywordFileIsSound("printf|out\r\n[C]\r\n\r\nx|\n", &line, &reason));
+  EXPECT_FALSE(keywordFileIsSound("a\nb\n|no keyword\n", &line, &reason));
+  EXPECT_EQ(line, 3u);
+  EXPECT_EQ(reason, "an entry with no keyword before \"|\"");
+  EXPECT_FALSE(keywordFileIsSound("MZ\x90\0\x03\nx"s, &line, &reason));
+  EXPECT_EQ(line, 1u);
+  EXPECT_EQ(reason, "a zero byte: this is not a text file");
+}

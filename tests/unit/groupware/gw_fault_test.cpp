@@ -100,7 +100,7 @@ TEST_F(GwFaultTest, SecondUserToTakeTheLockLeavesHisName) {
   takeLock("bob", dir.file("bob"));
 
   std::string holder;
-  ASSERT_TRUE(readLockFile(server("a.cpp"), &holder, nullptr));
+  ASSERT_EQ(readLockFile(server("a.cpp"), &holder, nullptr), LockRecord::Read);
   EXPECT_EQ(holder, "bob");
   EXPECT_EQ(read(lockFilePath(server("a.cpp"))), "bob");
   EXPECT_TRUE(readOnly(server("a.cpp")));

@@ -69,7 +69,7 @@ TEST_F(GwGetTest, GetRefreshesKeepingWritabilityAndTakesLocks) {
   EXPECT_FALSE(readOnly(local("lib/deep.h")));
   EXPECT_TRUE(readOnly(server("lib/deep.h")));
   std::string holder;
-  ASSERT_TRUE(readLockFile(server("lib/deep.h"), &holder, nullptr));
+  ASSERT_EQ(readLockFile(server("lib/deep.h"), &holder, nullptr), LockRecord::Read);
   EXPECT_EQ(holder, platformOs().userName().substr(0, 99));
   EXPECT_EQ(read(local("edited.cpp")), "mine");
 

@@ -4,6 +4,8 @@
 #include "groupware/tree_scan.h"
 #include "gw_trees.h"
 
+using namespace std::string_literals;
+
 namespace {
 
 class GwScanTest : public GwTrees {
@@ -63,6 +65,25 @@ TEST(GwLockFile, HolderIsTheFirstLineCutToTheNameBuffer) {
   EXPECT_EQ(lockHolderOf(std::string("j\xe9r\0x", 5)), "j\xe9r");
   EXPECT_EQ(lockHolderOf(""), "");
   EXPECT_EQ(lockHolderOf(std::string(150, 'u')), std::string(99, 'u'));
+}
+
+TEST(GwLockFile, ARecordIsOneLineHoldingAName) {
+  size_t line = 0;
+  std::string reason;
+  for (const std::string& sound : {"ann"s, "ann\r\n"s, "j\xe9r\0"s})
+    EXPECT_TRUE(lockRecordIsSound(sound, &line, &reason)) << sound;
+  const std::pair<std::string, std::string> damaged[] = {
+      {"ann\r\nbob\r\n", "2: a lock record holds one line, the user's name"},
+      {"ann\n\n\nbob", "4: a lock record holds one line, the user's name"},
+      {"", "1: no user name"},
+      {"\r\nann", "2: a lock record holds one line, the user's name"},
+      {"a\x07" "b", "1: control code 0x07 in the user name"},
+      {std::string(100, 'u'), "1: a user name of 100 bytes, over the 99 a record holds"},
+  };
+  for (const auto& [bytes, fault] : damaged) {
+    EXPECT_FALSE(lockRecordIsSound(bytes, &line, &reason)) << bytes;
+    EXPECT_EQ(std::to_string(line) + ": " + reason, fault);
+  }
 }
 
 TEST(GwRoots, ListedNamesFollowTheRootAndOneSeparator) {
