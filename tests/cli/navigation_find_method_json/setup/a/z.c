@@ -1,0 +1,1 @@
+void Doc::Paint(void)
