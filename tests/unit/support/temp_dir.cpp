@@ -51,7 +51,13 @@ TempDir::TempDir() {
   platformOs().makeDirectory(path_, nullptr);
 }
 
-TempDir::~TempDir() { removeTree(path_); }
+TempDir::~TempDir() {
+  // Opening a project makes its directory the current one, and Windows keeps
+  // the current directory of a process from being removed.
+  Os& real = platformOs();
+  if (real.currentDirectory().rfind(path_, 0) == 0) real.setCurrentDirectory(temporaryRoot(), nullptr);
+  removeTree(path_);
+}
 
 void TempDir::write(const std::string& relative, const std::string& data) const {
   std::string full = file(relative);
