@@ -54,7 +54,10 @@ bool writeWithFlags(const std::string& path, const std::string& data, int flags,
 
 class PosixFile : public OsFile {
  public:
-  PosixFile(int fd, std::string path) : fd_(fd), path_(std::move(path)) {}
+  // readLimit: the size the file had when it was opened to be read. A file that
+  // another process keeps growing (a log) is read as it was, not without end.
+  PosixFile(int fd, std::string path, uint64_t readLimit = UINT64_MAX)
+      : fd_(fd), path_(std::move(path)), unread_(readLimit) {}
   ~PosixFile() override {
     if (fd_ >= 0) ::close(fd_);
   }
@@ -62,10 +65,16 @@ class PosixFile : public OsFile {
   PosixFile& operator=(const PosixFile&) = delete;
 
   bool read(char* buffer, size_t size, size_t* got, std::string* err) override {
+    size = static_cast<size_t>(std::min<uint64_t>(size, unread_));
+    if (size == 0) {
+      *got = 0;
+      return true;
+    }
     for (;;) {
       ssize_t n = ::read(fd_, buffer, size);
       if (n >= 0) {
         *got = static_cast<size_t>(n);
+        unread_ -= *got;
         return true;
       }
       if (errno != EINTR) return fail(err, "read", path_);
@@ -93,6 +102,7 @@ class PosixFile : public OsFile {
  private:
   int fd_;
   std::string path_;
+  uint64_t unread_;
 };
 
 // flock() on the sidecar: it belongs to the open file, so the system drops it
@@ -300,7 +310,7 @@ class PosixOs : public Os {
       if (err) *err = "read " + path + ": not a regular file";
       return nullptr;
     }
-    return std::make_unique<PosixFile>(fd, path);
+    return std::make_unique<PosixFile>(fd, path, static_cast<uint64_t>(info.st_size));
   }
 
   std::unique_ptr<OsFile> createNewFile(const std::string& path, const std::string& likeFile, FinalMode mode,

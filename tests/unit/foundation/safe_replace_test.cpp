@@ -2,6 +2,8 @@
 // planted, every failing call, a refused chmod and a lock that stays busy.
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <memory>
 #include <vector>
 
 #include "foundation/os.h"
@@ -163,3 +165,23 @@ TEST(SafeReplaceTest, ALockTakenAgainInTheSameProcessNestsInsteadOfWaitingForIts
 }
 
 }  // namespace
+
+#ifndef _WIN32
+// A streamed read ends at the size the file had when it was opened, so that a
+// copy of a file that another process keeps growing ends, and ends whole.
+TEST(OsFileTest, AReadEndsAtTheSizeSeenAtOpening) {
+  TempDir dir;
+  dir.write("log", "0123456789");
+  std::unique_ptr<OsFile> file = platformOs().openFile(dir.file("log"), nullptr);
+  ASSERT_TRUE(file);
+  std::ofstream(dir.file("log"), std::ios::app) << "more and more";
+  std::string read;
+  char buffer[4];
+  size_t got = 0;
+  do {
+    ASSERT_TRUE(file->read(buffer, sizeof buffer, &got, nullptr));
+    read.append(buffer, got);
+  } while (got > 0);
+  EXPECT_EQ(read, "0123456789");
+}
+#endif
