@@ -1,7 +1,8 @@
 // The add-on's conveniences on the IDE's own windows, each with its "General"
-// switch on and off: the message window cleared when a Make starts, the
-// compile status box minimised during the Make, and the project window shown
-// when a project opens.
+// switch on and off: the message window cleared when a Make starts, the project
+// and message windows closed during the Make and put back where they were, the
+// compile status box minimised meanwhile, the project window shown when a
+// project opens, and the auto-save of modified editors.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -91,6 +92,28 @@ TEST_F(GeneralBehavioursTest, AMakeShowsTheFirstTabOfAnEmptiedMessageList) {
   ide_.make.fireMakeEnded();
 }
 
+TEST_F(GeneralBehavioursTest, AMakeClosesTheProjectAndMessageWindowsAndPutsThemBackWhereTheyWere) {
+  start();
+  auto placeOf = [&](const char* windowClass) {
+    RECT rect{};
+    GetWindowRect(ide_.windows.documentWindow(windowClass), &rect);
+    return rect;
+  };
+  MoveWindow(ide_.windows.documentWindow("BCW5Project"), 30, 40, 300, 200, TRUE);
+  const RECT projectBefore = placeOf("BCW5Project");
+  const RECT messagesBefore = placeOf("BCW5Message");
+  ide_.make.fireMakeStarted();
+  pumpMessages(100);
+  EXPECT_EQ(ide_.windows.documentWindow("BCW5Project"), nullptr);
+  EXPECT_EQ(ide_.windows.documentWindow("BCW5Message"), nullptr);
+  ide_.make.fireMakeEnded();
+  pumpMessages(100);
+  ASSERT_NE(ide_.windows.documentWindow("BCW5Project"), nullptr);
+  ASSERT_NE(ide_.windows.documentWindow("BCW5Message"), nullptr);
+  EXPECT_TRUE(placedAlike(placeOf("BCW5Project"), projectBefore));
+  EXPECT_TRUE(placedAlike(placeOf("BCW5Message"), messagesBefore));
+}
+
 TEST_F(GeneralBehavioursTest, TheCompileStatusBoxIsMinimisedWhileTheMakeRunsWhereverItIs) {
   start();
   for (const bool inDocumentArea : {true, false}) {
@@ -145,6 +168,18 @@ TEST_F(GeneralBehavioursTest, OpeningAProjectShowsTheProjectWindowWhenAskedAndTh
   pumpMessages(100);
   EnableWindow(ide_.windows.frame, TRUE);
   EXPECT_EQ(ide_.windows.documentWindow("BCW5Project"), nullptr);
+}
+
+TEST_F(GeneralBehavioursTest, ModifiedEditorsAreSavedOnTheThreeHundredthTick) {
+  start();
+  const IdeHandle view = ide_.openFile("C:\\DEMO\\FILE1.CPP", "int x;\n");
+  ide_.editor.buffers[view].modified = true;
+  HWND bar = FindWindowA("KADO", nullptr);
+  for (int tick = 1; tick < 300; ++tick) SendMessageA(bar, WM_TIMER, 1, 0);
+  EXPECT_EQ(ide_.editor.buffers[view].modified, true) << "nothing before the 300th tick";
+  SendMessageA(bar, WM_TIMER, 1, 0);
+  EXPECT_FALSE(ide_.editor.buffers[view].modified);
+  EXPECT_EQ(ide_.statusLine.texts.back(), "Auto-save (5 min) : C:\\DEMO\\FILE1.CPP.");
 }
 
 }  // namespace
