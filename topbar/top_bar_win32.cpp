@@ -127,6 +127,14 @@ std::string TopBar::projectFileName(uint32_t n) const {
                                        : std::string("a file in the project ...");
 }
 
+const ProjectNode* TopBar::nodeInIde(const ProjectNode& shown, const ProjectNode** root) {
+  // The menu holds a copy of the tree: the IDE's own node is found at the same place.
+  *root = links_.host->projectRoot();
+  const ProjectNode* node = *root ? sameNodeIn(project_, shown, **root) : nullptr;
+  if (!node) links_.host->showStatus("Internal error: bad file");
+  return node;
+}
+
 void TopBar::runProjectFile(uint32_t index) {
   if (index >= menu_.projectFiles.size()) return links_.host->showStatus("Internal error: not enough files");
   const bool alt = GetKeyState(VK_MENU) & 0x8000;
@@ -135,10 +143,9 @@ void TopBar::runProjectFile(uint32_t index) {
   // Asked first: the question's message loop may read the project again.
   if (remove && alert("Okay to remove\n" + projectFileName(index) + " ?", "Confirmation", kAlertYesNo) != kAnswerYes)
     return;
-  // The menu holds a copy of the tree: the IDE's own node is found at the same place.
-  const ProjectNode* root = links_.host->projectRoot();
-  const ProjectNode* node = root ? sameNodeIn(project_, *menu_.projectFiles[index], *root) : nullptr;
-  if (!node) return links_.host->showStatus("Internal error: bad file");
+  const ProjectNode* root = nullptr;
+  const ProjectNode* node = nodeInIde(*menu_.projectFiles[index], &root);
+  if (!node) return;
   if (alt && !control) {
     if (links_.quickAdd(*root, *node)) rebuildMenu();
     return;
@@ -185,14 +192,18 @@ bool TopBar::runCommand(BarCommand command, uint32_t index) {
       if (result != 0) links_.host->showStatus(toolResultText(result));
       return true;
     }
-    case BarCommand::RunTool:
+    case BarCommand::RunTool: {
       if (index >= menu_.tools.size()) {
         links_.host->showStatus("Internal error: not enough files");
         return true;
       }
+      const ProjectNode* root = nullptr;
+      const ProjectNode* node = nodeInIde(*menu_.tools[index], &root);
+      if (!node) return true;
       links_.host->showStatus("Running");
-      runNodeTool(*menu_.tools[index]);
+      runNodeTool(*node);
       return true;
+    }
     case BarCommand::RecentHeader:
       links_.activateFrame();
       // A copy: recording the header moves the entries.

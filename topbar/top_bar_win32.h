@@ -76,6 +76,10 @@ class TopBar {
   const RecentFiles& recent() const;
   // Project file n as the status line and the questions name it.
   std::string projectFileName(uint32_t n) const;
+  // The IDE's node at the place of shown, a node of the menu's copy of the
+  // tree, with the IDE's tree in *root; null, told on the status line, when
+  // the IDE no longer has it.
+  const ProjectNode* nodeInIde(const ProjectNode& shown, const ProjectNode** root);
   // Opens project file n; with Alt alone offers Quick add beside it, with Ctrl
   // alone removes it from the project, with both opens it in its other form.
   void runProjectFile(uint32_t index);

@@ -4,6 +4,9 @@
 #include <fstream>
 #include <sstream>
 
+#include "foundation/settings.h"
+#include "foundation/settings_registry_win32.h"
+
 std::string testFolder(const std::string& name) {
   char program[MAX_PATH] = {};
   GetModuleFileNameA(nullptr, program, sizeof program);
@@ -145,6 +148,10 @@ RecordedMail::RecordedMail(const std::string& name) : path_(testFolder("mail") +
 RecordedMail::~RecordedMail() { SetEnvironmentVariableA("KESTO_TEST_MAPI_LOG", nullptr); }
 
 std::string RecordedMail::text() const { return readWholeFile(path_); }
+
+void putAddonSetting(const std::string& section, const std::string& name, const std::string& value) {
+  SettingsRegistry().write(std::string(SettingsStore::kAddOnRoot) + "\\" + section, name, value);
+}
 
 void sendBarCommand(UINT id) { SendMessageA(FindWindowA("KADO", nullptr), WM_COMMAND, id, 0); }
 

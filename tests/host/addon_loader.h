@@ -34,6 +34,9 @@ class LoadedAddon {
   Entry entry_ = nullptr;
 };
 
+// A value of the add-on's settings, written into the registry as the add-on reads it.
+void putAddonSetting(const std::string& section, const std::string& name, const std::string& value);
+
 // A command sent to the add-on's bar window, as its menus and the hooks send them.
 void sendBarCommand(UINT id);
 

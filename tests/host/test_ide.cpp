@@ -1,10 +1,10 @@
-// The test IDE's interfaces and windows.
+// The test IDE's interfaces.
 #include "test_ide.h"
-
-#include <commctrl.h>
 
 #include <cstdio>
 #include <cstring>
+
+#include "options_dialog.h"
 
 long TestIde::liveStrings = 0;
 
@@ -39,45 +39,6 @@ void removeClient(std::vector<Client*>* clients, Client* client) {
 }
 
 bool sameFile(const std::string& a, const std::string& b) { return lstrcmpiA(a.c_str(), b.c_str()) == 0; }
-
-HWND createChild(HWND documents, const char* windowClass, const std::string& title);
-
-// The IDE's menu commands that show its project and message windows, made anew when closed.
-LRESULT CALLBACK frameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  HWND documents = FindWindowExA(window, nullptr, "MDIClient", nullptr);
-  if (message == WM_COMMAND && (wParam == 13251 || wParam == 13252)) {
-    const char* windowClass = wParam == 13251 ? "BCW5Project" : "BCW5Message";
-    if (!FindWindowExA(documents, nullptr, windowClass, nullptr))
-      createChild(documents, windowClass, wParam == 13251 ? "Project" : "Message");
-    return 0;
-  }
-  return DefFrameProcA(window, documents, message, wParam, lParam);
-}
-
-void registerClass(const char* name, WNDPROC procedure) {
-  WNDCLASSA windowClass = {};
-  windowClass.lpfnWndProc = procedure;
-  windowClass.hInstance = GetModuleHandleA(nullptr);
-  windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-  windowClass.hbrBackground = static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH));
-  windowClass.lpszClassName = name;
-  RegisterClassA(&windowClass);
-}
-
-// The editor's text pane: an edit control under the IDE's class name, so that
-// selections and WM_COPY behave as in an editor.
-void registerEditorTextClass() {
-  WNDCLASSA editorText = {};
-  GetClassInfoA(nullptr, "EDIT", &editorText);
-  editorText.hInstance = GetModuleHandleA(nullptr);
-  editorText.lpszClassName = "EditWindClass";
-  RegisterClassA(&editorText);
-}
-
-HWND createChild(HWND documents, const char* windowClass, const std::string& title) {
-  return CreateMDIWindowA(windowClass, title.c_str(), WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, 0, 0, 400, 300,
-                          documents, GetModuleHandleA(nullptr), 0);
-}
 
 }  // namespace
 
@@ -168,6 +129,7 @@ long __stdcall TestEditor::SaveAll(IIdeString** names) {
 IdeHandle __stdcall TestMessageWindow::AddMessage(IIdeString* group, IIdeString*, IdeHandle parent, IIdeString* text,
                                                   IIdeString* file, long line, unsigned short column, long) {
   messages.push_back({textOf(group), parent, textOf(text), textOf(file), line, column});
+  if (windows) windows->addMessageRow(textOf(group) + ": " + textOf(text));
   return messages.size();
 }
 
@@ -287,39 +249,15 @@ BOOL __stdcall TestTools::DeleteTool(IdeHandle tool) {
   return TRUE;
 }
 
-TestIdeWindows::TestIdeWindows() {
-  registerClass("CPPFRAME", frameProcedure);
-  registerClass("BCW5Editor", DefMDIChildProcA);
-  registerClass("BCW5Project", DefMDIChildProcA);
-  registerClass("BCW5Message", DefMDIChildProcA);
-  registerEditorTextClass();
-  frame = CreateWindowExA(0, "CPPFRAME", "Borland C++ - demo", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN | WS_VISIBLE, 0,
-                          40, 800, 560, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
-  CLIENTCREATESTRUCT documentsCreate = {};
-  documents = CreateWindowExA(0, "MDIClient", nullptr, WS_CHILD | WS_CLIPCHILDREN | WS_VISIBLE, 0, 0, 800, 500, frame,
-                              nullptr, GetModuleHandleA(nullptr), &documentsCreate);
-  INITCOMMONCONTROLSEX controls = {sizeof controls, ICC_BAR_CLASSES};
-  InitCommonControlsEx(&controls);
-  status = CreateWindowExA(0, STATUSCLASSNAMEA, "Ready", WS_CHILD | WS_VISIBLE, 0, 0, 0, 0, frame, nullptr,
-                           GetModuleHandleA(nullptr), nullptr);
-  project = createChild(documents, "BCW5Project", "Project : c:\\projects\\demo\\demo.ide");
-  messages = createChild(documents, "BCW5Message", "Message");
+TestIde::TestIde() : Counted(GUID{}) {
+  references = 1;
+  messageWindow.windows = &windows;
+  // The IDE's options dialog shows every chapter; the add-on adds the only one here.
+  windows.onOptionsCommand = [this] {
+    if (!optionsDialog && !nodeOptions.chapters.empty())
+      optionsDialog = std::make_unique<TestOptionsDialog>(nodeOptions.chapters[0]);
+  };
 }
-
-TestIdeWindows::~TestIdeWindows() {
-  if (frame) DestroyWindow(frame);
-}
-
-HWND TestIdeWindows::openEditor(const std::string& title, const std::string& text) {
-  HWND editor = createChild(documents, "BCW5Editor", title);
-  RECT client = {};
-  GetClientRect(editor, &client);
-  CreateWindowExA(0, "EditWindClass", text.c_str(), WS_CHILD | WS_VISIBLE | ES_MULTILINE | WS_VSCROLL, 0, 0,
-                  client.right, client.bottom, editor, nullptr, GetModuleHandleA(nullptr), nullptr);
-  return editor;
-}
-
-TestIde::TestIde() : Counted(GUID{}) { references = 1; }
 
 TestIde::~TestIde() = default;
 

@@ -5,12 +5,16 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "win32/ide_api_win32.h"
+
+class TestOptionsDialog;
 
 // One interface of the test IDE: counted, never deleted (the IDE owns it), so
 // that a test can see every reference the add-on took come back.
@@ -71,6 +75,9 @@ class TestEditor : public Counted<IIdeEditor> {
   TestBuffer* buffer(IdeHandle view);
 };
 
+class TestIdeWindows;
+
+// The message service; each message also becomes a row of the message window's list.
 class TestMessageWindow : public Counted<IIdeMessageWindow> {
  public:
   struct Message {
@@ -85,6 +92,7 @@ class TestMessageWindow : public Counted<IIdeMessageWindow> {
   IdeHandle __stdcall AddMessage(IIdeString* group, IIdeString* groupMenuText, IdeHandle parent, IIdeString* text,
                                  IIdeString* file, long line, unsigned short column, long kind) override;
   std::vector<Message> messages;
+  TestIdeWindows* windows = nullptr;
 };
 
 class TestStatusLine : public Counted<IIdeStatusLine> {
@@ -188,6 +196,11 @@ class TestTools : public Counted<IIdeTools> {
 };
 
 // The IDE's frame, document area, status window and editor, project and message windows.
+// The frame answers the IDE's menu commands that show the project (13251) and
+// message (13252) windows, making them anew when closed, and opens the options
+// dialog (13492) through onOptionsCommand; it records every command it gets.
+// The message window holds a tab strip ("OWL_NoteTab") over a list ("MsgViewer",
+// emptied by command 1722), both inside an "OWL_Window".
 class TestIdeWindows {
  public:
   TestIdeWindows();
@@ -197,6 +210,20 @@ class TestIdeWindows {
   // A "BCW5Editor" child of the document area, titled like the IDE's editors,
   // whose "EditWindClass" child holds text.
   HWND openEditor(const std::string& title, const std::string& text = "");
+  // The compile status box ("#32770") the IDE shows while it builds: a child of
+  // the document area, or a top-level window owned by the frame.
+  HWND openCompileStatus(bool inDocumentArea);
+
+  // The open message window's list rows and selected tab; none and -1 without one.
+  std::vector<std::string> messageRows() const;
+  int messageTab() const;
+  // A row at the end of the open message window's list.
+  void addMessageRow(const std::string& row);
+  // The open window of that class in the document area; null when closed.
+  HWND documentWindow(const char* windowClass) const;
+
+  std::vector<WPARAM> frameCommands;
+  std::function<void()> onOptionsCommand;
   HWND frame = nullptr;
   HWND documents = nullptr;
   HWND status = nullptr;  // "msctls_statusbar32", where long copies draw their progress
@@ -228,6 +255,9 @@ class TestIde : public Counted<IIdeRoot> {
   TestProjectSave projectSave;
   TestTools tools;
   TestIdeWindows windows;
+  // The options dialog over the add-on's chapter, opened by the frame's options
+  // command; to be closed (reset) before the add-on stops, as it holds its pages.
+  std::unique_ptr<TestOptionsDialog> optionsDialog;
 
   static long liveStrings;  // strings made and not yet released
 

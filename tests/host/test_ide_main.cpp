@@ -11,7 +11,6 @@
 
 #include "addon_loader.h"
 #include "ide/addon_environment_win32.h"
-#include "win32/gdi_win32.h"
 #include "navigation/title_bar_geometry.h"
 #include "navigation/title_bar_win32.h"
 #include "test_ide.h"
@@ -106,17 +105,9 @@ void reportButtons(HMODULE module, TestIde* ide, const char* program) {
   report("newShell", environment.newShell);
   report("originX", origin.x);
   report("originY", origin.y);
-  WindowDc window(editor, GetWindowDC(editor));
-  MemoryDc memory(CreateCompatibleDC(window.get()));
-  for (int32_t button = 0; button < kTitleBarButtons; ++button) {
-    GdiObject<HBITMAP> bitmap(LoadBitmapA(module, titleBarBitmap(button)));
-    Selection selected(memory.get(), bitmap.get());
-    int same = 0;
-    for (int y = 0; y < 18; ++y)
-      for (int x = 0; x < 24; ++x)
-        same += GetPixel(memory.get(), x, y) == GetPixel(window.get(), origin.x + button * 24 + x, origin.y + y);
-    report("button" + std::to_string(button), same);
-  }
+  for (int32_t button = 0; button < kTitleBarButtons; ++button)
+    report("button" + std::to_string(button),
+           bitmapPixelsShown(editor, module, titleBarBitmap(button), POINT{origin.x + button * 24, origin.y}));
   report("screenshot", saveScreenshot("editor-" + programName(program)) ? 1 : 0);
 }
 

@@ -1,6 +1,7 @@
 // The add-on loaded into this process, driven through the test IDE's windows:
-// the title-bar popups, what choosing in them does, QuickFind through a
-// selection and through its dialog, and the cross reference in the message window.
+// the title-bar popups, what choosing in them does, the buttons moved to the
+// right side by the editor options page, QuickFind through a selection and
+// through its dialog, and the cross reference in the message window.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,7 +13,9 @@
 #include "foundation/settings.h"
 #include "foundation/settings_registry_win32.h"
 #include "ide/addon_environment_win32.h"
+#include "navigation/title_bar_geometry.h"
 #include "navigation/title_bar_win32.h"
+#include "options_dialog.h"
 #include "ui_driver.h"
 
 namespace {
@@ -112,6 +115,16 @@ class TitleBarTest : public ::testing::Test {
     return POINT{place.left + origin.x + button * 24 + 12, place.top + origin.y + 9};
   }
 
+  // How many pixels of the three buttons the editor's title bar shows on that side.
+  int buttonPixelsShown(HWND editor, bool leftSide) {
+    const POINT origin = titleBarButtonsOrigin(editor, {addon_->module(), newShell_, leftSide});
+    int shown = 0;
+    for (int32_t button = 0; button < kTitleBarButtons; ++button)
+      shown += bitmapPixelsShown(editor, addon_->module(), titleBarBitmap(button),
+                                 POINT{origin.x + button * 24, origin.y});
+    return shown;
+  }
+
   bool editorLogHas(const std::string& entry) {
     const auto& log = ide_.editor.log;
     return std::find(log.begin(), log.end(), entry) != log.end();
@@ -178,6 +191,40 @@ TEST_F(TitleBarTest, IncludeIsFoundBelowTheProjectDirectoryOpenedAndRecorded) {
   stop();
   EXPECT_EQ(readSetting("TopBar", "NbINC"), "1");
   EXPECT_EQ(readSetting("TopBar\\INC", "Entry0"), header);
+}
+
+TEST_F(TitleBarTest, EditorPageMovesTheButtonsToTheRightSideAtOnceWhereTheyStillOpenTheirPopups) {
+  start();
+  // A short title, so that the left side stands well apart from the right one.
+  ide_.openFile("C:\\SRC\\FRAME.CPP", kFrameSource);
+  HWND editor = ide_.editor.buffers.rbegin()->second.window;
+  MoveWindow(editor, 0, 0, 560, 160, TRUE);
+  pumpMessages(300);
+  ASSERT_GT(titleBarButtonsOrigin(editor, {addon_->module(), newShell_, false}).x -
+                titleBarButtonsOrigin(editor, {addon_->module(), newShell_, true}).x,
+            3 * 24);
+  const int allPixels = kTitleBarButtons * 24 * 18;
+  ASSERT_EQ(buttonPixelsShown(editor, true), allPixels) << "on the left side by default";
+  {
+    TestOptionsDialog dialog(ide_.nodeOptions.chapters[0]);
+    // Clear of the editor, so that closing it repaints nothing there.
+    SetWindowPos(dialog.window(), nullptr, 20, 320, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    dialog.select(2);
+    SendMessageA(GetDlgItem(dialog.pageWindow(2), 1018), BM_CLICK, 0, 0);  // "at the right side"
+    pumpMessages(300);  // the repaints that the dialog's opening caused, on the left side still
+    ASSERT_TRUE(dialog.accept());
+    pumpMessages(300);
+    EXPECT_EQ(buttonPixelsShown(editor, false), allPixels) << "the frame was painted again";
+    EXPECT_LT(buttonPixelsShown(editor, true), allPixels / 2) << "the old buttons went with the old frame";
+  }
+  pumpMessages(100);
+  saveScreenshot("editor-buttons-right-side");
+  ModalDriver driver;
+  clickAt(buttonPoint(editor, 1));
+  ASSERT_TRUE(pumpUntil([&] { return !driver.menus.empty(); }));
+  EXPECT_EQ(driver.menus[0], "700 frame.h\n701 other.h\n");
+  ASSERT_TRUE(pumpUntil([] { return !menuShown(); }));
+  stop();
 }
 
 TEST_F(TitleBarTest, EditDocumentationOpensTheTitlesTextFile) {

@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "win32/gdi_win32.h"
+
 ModalDriver* ModalDriver::active_ = nullptr;
 
 namespace {
@@ -143,6 +145,20 @@ bool saveScreenshot(const std::string& name) {
     Sleep(50);
   }
   return false;
+}
+
+int bitmapPixelsShown(HWND window, HMODULE module, const char* bitmap, POINT at) {
+  GdiObject<HBITMAP> loaded(LoadBitmapA(module, bitmap));
+  BITMAP size = {};
+  if (!loaded.get() || !GetObjectA(loaded.get(), sizeof size, &size)) return 0;
+  WindowDc shown(window, GetWindowDC(window));
+  MemoryDc memory(CreateCompatibleDC(shown.get()));
+  Selection selected(memory.get(), loaded.get());
+  int same = 0;
+  for (int y = 0; y < size.bmHeight; ++y)
+    for (int x = 0; x < size.bmWidth; ++x)
+      same += GetPixel(memory.get(), x, y) == GetPixel(shown.get(), at.x + x, at.y + y);
+  return same;
 }
 
 std::string describeWin32Menu(HMENU menu) {

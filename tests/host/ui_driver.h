@@ -30,6 +30,11 @@ std::vector<std::string> listBoxRows(HWND dialog, int id);
 // The screen as a PNG file named name under the screenshot folder; false when it could not be taken.
 bool saveScreenshot(const std::string& name);
 
+// How many pixels of the module's bitmap resource the whole window (caption
+// and frame included) shows with the bitmap's top-left corner at at, in window
+// coordinates; 0 when the bitmap cannot be loaded.
+int bitmapPixelsShown(HWND window, HMODULE module, const char* bitmap, POINT at);
+
 // Whether a popup menu of this process is showing.
 bool menuShown();
 
