@@ -14,6 +14,7 @@ struct CommandRange {
   constexpr uint32_t id(int32_t index) const { return first + static_cast<uint32_t>(index); }
 };
 
+constexpr CommandRange kToolCommands{300, 399};
 constexpr CommandRange kIncludeCommands{700, 799};
 constexpr CommandRange kQuickFindResultCommands{800, 899};
 constexpr CommandRange kFunctionCommands{1000, 9999};

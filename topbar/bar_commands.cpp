@@ -17,7 +17,7 @@ constexpr BarCommandEntry kCommands[] = {
     {190, 193, BarCommand::QuickFind},        {194, 194, BarCommand::GenerateHtml},
     {195, 195, BarCommand::OpenHtml},         {196, 196, BarCommand::Help},
     {197, 197, BarCommand::TitleBarPopup},    {199, 199, BarCommand::Options},
-    {200, 299, BarCommand::RecentProject},    {300, 399, BarCommand::RunTool},
+    {200, 299, BarCommand::RecentProject},    {kToolCommands.first, kToolCommands.last, BarCommand::RunTool},
     {400, 599, BarCommand::RecentHeader},
     {kIncludeCommands.first, kIncludeCommands.last, BarCommand::Include},
     {kQuickFindResultCommands.first, kQuickFindResultCommands.last, BarCommand::QuickFindResult},
