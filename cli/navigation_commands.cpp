@@ -49,7 +49,7 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
   const Tableau<Fnc>& functions = scanner.functions();
   for (int32_t i = 0; i < functions.count(); ++i) {
     const Fnc& entry = *functions[i];
-    std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
+    std::cout << kFunctionCommands.id(i) << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
               << '\n';
   }
 }
@@ -63,7 +63,8 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
     return;
   }
   const Tableau<String>& includes = scanner.includes();
-  for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
+  for (int32_t i = 0; i < includes.count(); ++i)
+    std::cout << kIncludeCommands.id(i) << '\t' << includes[i]->str() << '\n';
 }
 
 void locateInclude(CliSession& session, const NavigationArguments& args) {

@@ -13,9 +13,6 @@
 #include "foundation/tableau.h"
 #include "navigation/function_scan.h"
 
-constexpr uint32_t kFirstFunctionId = kFunctionCommands.first;
-constexpr uint32_t kFirstIncludeId = kIncludeCommands.first;
-constexpr uint32_t kFirstResultId = kQuickFindResultCommands.first;
 constexpr uint32_t kFindFunctionId = 190;
 constexpr uint32_t kFindMethodId = 191;
 constexpr uint32_t kFindClassId = 192;
@@ -25,7 +22,7 @@ constexpr uint32_t kMethodResultsId = 184;
 
 // Each popup below numbers at most as many entries as its identifier range
 // holds, then counts the rest with MenuItem::more at the end of its main popup.
-
+//
 // Free functions in the main popup, each run of adjacent methods of one class
 // in a submenu titled by the class; item i is 1000 + i. A popup starts a new
 // column after every columnHeight items (never when columnHeight is 0).

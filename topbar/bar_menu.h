@@ -12,7 +12,6 @@
 #include "topbar/recent_files.h"
 
 constexpr uint32_t kFirstRecentProjectId = 200;
-constexpr uint32_t kFirstToolId = kToolCommands.first;
 constexpr uint32_t kFirstRecentHeaderId = 400;
 constexpr uint32_t kFirstProjectFileId = 10000;
 
