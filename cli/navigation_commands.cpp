@@ -53,11 +53,13 @@ void listFunctions(CliSession& session, const NavigationArguments& args) {
   for (int32_t i = 0; i < functions.count(); ++i) {
     const Fnc& entry = *functions[i];
     if (args.json)
-      document.push_back(
-          {{"id", kFirstFunctionId + i}, {"line", entry.line()}, {"class", entry.className()}, {"name", entry.name()}});
+      document.push_back({{"id", kFunctionCommands.id(i)},
+                          {"line", entry.line()},
+                          {"class", entry.className()},
+                          {"name", entry.name()}});
     else
-      std::cout << kFirstFunctionId + i << '\t' << entry.line() << '\t' << entry.className() << '\t' << entry.name()
-                << '\n';
+      std::cout << kFunctionCommands.id(i) << '\t' << entry.line() << '\t' << entry.className() << '\t'
+                << entry.name() << '\n';
   }
   if (args.json) printJson(document);
 }
@@ -71,7 +73,8 @@ void listIncludes(CliSession& session, const NavigationArguments& args) {
     return;
   }
   const Tableau<String>& includes = scanner.includes();
-  for (int32_t i = 0; i < includes.count(); ++i) std::cout << kFirstIncludeId + i << '\t' << includes[i]->str() << '\n';
+  for (int32_t i = 0; i < includes.count(); ++i)
+    std::cout << kIncludeCommands.id(i) << '\t' << includes[i]->str() << '\n';
 }
 
 void locateInclude(CliSession& session, const NavigationArguments& args) {

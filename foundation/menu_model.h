@@ -33,6 +33,14 @@ struct MenuItem {
     item.text = std::move(text);
     return item;
   }
+  // The last item of a popup that stops at the end of its identifier range:
+  // grayed, "... 31869 more" for the entries left out, and identifier 0, so
+  // that it never arrives as a command.
+  static MenuItem more(int32_t rest) {
+    MenuItem item = command(0, "... " + std::to_string(rest) + " more");
+    item.grayed = true;
+    return item;
+  }
 };
 
 struct MenuModel {

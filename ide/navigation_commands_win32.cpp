@@ -95,14 +95,14 @@ bool editDocumentationCommand(HWND, UINT, LPARAM) {
 
 bool functionChosenCommand(HWND, UINT id, LPARAM) {
   activateIdeFrame();
-  const Fnc* function = addon().navigation ? addon().navigation->functionAt(id - kFirstFunctionId) : nullptr;
+  const Fnc* function = addon().navigation ? addon().navigation->functionAt(id - kFunctionCommands.first) : nullptr;
   if (function) ideHost().goToLine(target().fileName, function->line());
   return true;
 }
 
 bool includeChosenCommand(HWND, UINT id, LPARAM) {
   activateIdeFrame();
-  const String* name = addon().navigation ? addon().navigation->includeAt(id - kFirstIncludeId) : nullptr;
+  const String* name = addon().navigation ? addon().navigation->includeAt(id - kIncludeCommands.first) : nullptr;
   std::string path;
   if (name && findInclude(ideHost(), name->str(), target().fileName, &path)) openAndRecord(path);
   return true;
@@ -129,7 +129,8 @@ bool quickFindCommand(HWND bar, UINT id, LPARAM) {
     case kFindMethodId:
       if (!quickFind->findMethods(ideHost(), text, file)) break;
       // One result opens at once; several are offered in a popup.
-      PostMessageA(bar, WM_COMMAND, quickFind->methodResults().count() == 1 ? kFirstResultId : kMethodResultsId, 0);
+      PostMessageA(bar, WM_COMMAND,
+                   quickFind->methodResults().count() == 1 ? kQuickFindResultCommands.first : kMethodResultsId, 0);
       break;
     default:
       quickFind->crossReference(ideHost(), text);
@@ -149,7 +150,7 @@ bool methodResultsCommand(HWND bar, UINT, LPARAM) {
 bool resultChosenCommand(HWND bar, UINT id, LPARAM) {
   if (!addon().quickFind) return true;
   const Tableau<QuickResu>& results = addon().quickFind->methodResults();
-  const int32_t index = static_cast<int32_t>(id - kFirstResultId);
+  const int32_t index = static_cast<int32_t>(id - kQuickFindResultCommands.first);
   if (index < results.count()) postFound(bar, kOpenFoundFileMessage, results[index]->file(), results[index]->line());
   return true;
 }

@@ -1,6 +1,8 @@
 // Building the navigation popups; the hosts turn them into real menus.
 #include "navigation/navigation_menus.h"
 
+#include <algorithm>
+
 namespace {
 
 bool startsColumn(int32_t count, int32_t columnHeight) { return columnHeight != 0 && count != 0 && count % columnHeight == 0; }
@@ -21,10 +23,11 @@ MenuModel functionsMenu(const Tableau<Fnc>& functions, int32_t columnHeight) {
     ++mainCount;
     submenuOpen = false;
   };
-  for (int32_t i = 0; i < functions.count(); ++i) {
+  const int32_t shown = std::min(functions.count(), kFunctionCommands.size());
+  for (int32_t i = 0; i < shown; ++i) {
     const Fnc& entry = *functions[i];
     if (submenuOpen && entry.className() != previous->className()) closeSubmenu();
-    MenuItem item = MenuItem::command(kFirstFunctionId + static_cast<uint32_t>(i), entry.name());
+    MenuItem item = MenuItem::command(kFunctionCommands.id(i), entry.name());
     if (entry.isMethod()) {
       if (!submenuOpen) {
         submenu = MenuItem::popup("");
@@ -42,13 +45,19 @@ MenuModel functionsMenu(const Tableau<Fnc>& functions, int32_t columnHeight) {
     previous = &entry;
   }
   if (submenuOpen) closeSubmenu();
+  if (shown < functions.count()) {
+    menu.items.push_back(MenuItem::more(functions.count() - shown));
+    menu.items.back().columnBreak = startsColumn(mainCount, columnHeight);
+  }
   return menu;
 }
 
 MenuModel includesMenu(const Tableau<String>& includes) {
   MenuModel menu;
-  for (int32_t i = 0; i < includes.count(); ++i)
-    menu.items.push_back(MenuItem::command(kFirstIncludeId + static_cast<uint32_t>(i), includes[i]->str()));
+  const int32_t shown = std::min(includes.count(), kIncludeCommands.size());
+  for (int32_t i = 0; i < shown; ++i)
+    menu.items.push_back(MenuItem::command(kIncludeCommands.id(i), includes[i]->str()));
+  if (shown < includes.count()) menu.items.push_back(MenuItem::more(includes.count() - shown));
   return menu;
 }
 

@@ -2,18 +2,17 @@
 // method results and "Edit Documentation".
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
 
+#include "foundation/command_ranges.h"
 #include "foundation/kstring.h"
 #include "foundation/menu_model.h"
 #include "foundation/tableau.h"
 #include "navigation/function_scan.h"
 
-constexpr uint32_t kFirstFunctionId = 1000;
-constexpr uint32_t kFirstIncludeId = 700;
-constexpr uint32_t kFirstResultId = 800;
 constexpr uint32_t kFindFunctionId = 190;
 constexpr uint32_t kFindMethodId = 191;
 constexpr uint32_t kFindClassId = 192;
@@ -21,6 +20,9 @@ constexpr uint32_t kCrossReferenceId = 193;
 constexpr uint32_t kEditDocumentationId = 177;
 constexpr uint32_t kMethodResultsId = 184;
 
+// Each popup below numbers at most as many entries as its identifier range
+// holds, then counts the rest with MenuItem::more at the end of its main popup.
+//
 // Free functions in the main popup, each run of adjacent methods of one class
 // in a submenu titled by the class; item i is 1000 + i. A popup starts a new
 // column after every columnHeight items (never when columnHeight is 0).
@@ -39,7 +41,9 @@ MenuModel editDocumentationMenu();
 template <typename Results>
 MenuModel resultsMenu(const Results& results) {
   MenuModel menu;
-  for (int32_t i = 0; i < results.count(); ++i)
-    menu.items.push_back(MenuItem::command(kFirstResultId + static_cast<uint32_t>(i), results[i]->text()));
+  const int32_t shown = std::min(results.count(), kQuickFindResultCommands.size());
+  for (int32_t i = 0; i < shown; ++i)
+    menu.items.push_back(MenuItem::command(kQuickFindResultCommands.id(i), results[i]->text()));
+  if (shown < results.count()) menu.items.push_back(MenuItem::more(results.count() - shown));
   return menu;
 }

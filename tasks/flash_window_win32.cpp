@@ -23,7 +23,10 @@ INT_PTR CALLBACK flashProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
       RECT client;
       GetClientRect(window, &client);
       fitReport(window, client.right, client.bottom);
-      return TRUE;
+      // The dialog manager would select the whole report in the control it
+      // focuses; focused here, the report opens with the caret at its start.
+      SetFocus(GetDlgItem(window, kReport));
+      return FALSE;
     }
     case WM_SIZE:
       fitReport(window, LOWORD(lParam), HIWORD(lParam));

@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "foundation/command_ranges.h"
+
 namespace {
 
 constexpr BarCommandEntry kCommands[] = {
@@ -15,9 +17,11 @@ constexpr BarCommandEntry kCommands[] = {
     {190, 193, BarCommand::QuickFind},        {194, 194, BarCommand::GenerateHtml},
     {195, 195, BarCommand::OpenHtml},         {196, 196, BarCommand::Help},
     {197, 197, BarCommand::TitleBarPopup},    {199, 199, BarCommand::Options},
-    {200, 299, BarCommand::RecentProject},    {300, 399, BarCommand::RunTool},
-    {400, 599, BarCommand::RecentHeader},     {700, 799, BarCommand::Include},
-    {800, 899, BarCommand::QuickFindResult},  {1000, 9999, BarCommand::Function},
+    {200, 299, BarCommand::RecentProject},    {kToolCommands.first, kToolCommands.last, BarCommand::RunTool},
+    {400, 599, BarCommand::RecentHeader},
+    {kIncludeCommands.first, kIncludeCommands.last, BarCommand::Include},
+    {kQuickFindResultCommands.first, kQuickFindResultCommands.last, BarCommand::QuickFindResult},
+    {kFunctionCommands.first, kFunctionCommands.last, BarCommand::Function},
     {10000, 19999, BarCommand::ProjectFile},
 };
 

@@ -22,11 +22,18 @@ class Builder {
   Builder(const BarMenuInputs& inputs, BarMenu& result, MenuItem& main) : inputs_(inputs), result_(result), main_(main) {}
 
   void tool(const ProjectNode& node) {
+    // Past its range a run item would arrive as a recent header.
+    if (result_.tools.size() == static_cast<size_t>(kToolCommands.size())) {
+      ++toolsLeftOut_;
+      return;
+    }
     char text[300];
     std::snprintf(text, sizeof text, "run %s", menuFileName(node.name).c_str());
-    main_.children.push_back(MenuItem::command(kFirstToolId + static_cast<uint32_t>(result_.tools.size()), text));
+    main_.children.push_back(MenuItem::command(kToolCommands.id(static_cast<int32_t>(result_.tools.size())), text));
     result_.tools.push_back(&node);
   }
+
+  int32_t toolsLeftOut() const { return toolsLeftOut_; }
 
   MenuItem fileItem(const ProjectNode& node) {
     MenuItem item = MenuItem::command(kFirstProjectFileId + static_cast<uint32_t>(result_.projectFiles.size()),
@@ -73,6 +80,7 @@ class Builder {
   const BarMenuInputs& inputs_;
   BarMenu& result_;
   MenuItem& main_;
+  int32_t toolsLeftOut_ = 0;
 };
 
 void appendFeatureMenus(const BarMenuInputs& inputs, MenuItem& main) {
@@ -123,6 +131,7 @@ BarMenu buildBarMenu(const BarMenuInputs& inputs) {
     } else if (construction == kHierarchicalConstruction) {
       builder.hierarchical(*inputs.project, result.bar.items);
     }
+    if (builder.toolsLeftOut() > 0) main.children.push_back(MenuItem::more(builder.toolsLeftOut()));
   }
   if (!result.tools.empty()) main.children.push_back(MenuItem::separator());
 

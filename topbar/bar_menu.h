@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "foundation/command_ranges.h"
 #include "foundation/menu_model.h"
 #include "project/project_tree.h"
 #include "topbar/recent_files.h"
 
 constexpr uint32_t kFirstRecentProjectId = 200;
-constexpr uint32_t kFirstToolId = 300;
 constexpr uint32_t kFirstRecentHeaderId = 400;
 constexpr uint32_t kFirstProjectFileId = 10000;
 
@@ -30,7 +30,7 @@ struct BarMenuInputs {
 
 struct BarMenu {
   MenuModel bar;                                  // the menu bar; its first popup is "Kesto"
-  std::vector<const ProjectNode*> tools;         // tool n is 300 + n
+  std::vector<const ProjectNode*> tools;         // tool n is 300 + n; past 399 counted, not shown
   std::vector<const ProjectNode*> projectFiles;  // file n is 10000 + n
 };
 

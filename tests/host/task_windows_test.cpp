@@ -151,6 +151,10 @@ TEST_F(TaskWindowsTest, FlashShowsOnceOnTheFirstOpeningOfADayAndOnDemandAlways) 
   GetWindowRect(GetDlgItem(flash, 101), &report);
   EXPECT_EQ(report.right - report.left, client.right) << "the report fills the window";
   pumpMessages(300);
+  DWORD selStart = 1;
+  DWORD selEnd = 0;
+  SendDlgItemMessageA(flash, 101, EM_GETSEL, reinterpret_cast<WPARAM>(&selStart), reinterpret_cast<LPARAM>(&selEnd));
+  EXPECT_EQ(selStart, selEnd) << "the report opens with nothing selected";
   saveScreenshot("flash");
   SendMessageA(flash, WM_CLOSE, 0, 0);
   EXPECT_EQ(flashShown(), nullptr);

@@ -342,3 +342,47 @@ TEST_F(TitleBarTest, CrossReferenceFillsItsMessageGroup) {
   EXPECT_EQ(ide_.statusLine.texts.back(), "References found, see Message Window");
   stop();
 }
+
+TEST_F(TitleBarTest, CrowdedPopupsStopAtTheirRangesAndCountTheRest) {
+  // 120 includes and 9,100 definitions of one method: more than the include,
+  // function and QuickFind result ranges number.
+  const std::string dir = windowsPath(KESTO_HOST_WORK_DIR) + "\\crowded";
+  CreateDirectoryA(dir.c_str(), nullptr);
+  SetCurrentDirectoryA(dir.c_str());
+  std::string source;
+  for (int i = 0; i < 120; ++i) source += "#include \"h" + std::to_string(i) + ".h\"\n";
+  for (int i = 0; i < 9100; ++i) source += "void View::Paint(int)\n";
+  writeFile(dir + "\\crowded.cpp", source);
+  start();
+  ide_.openFile(dir + "\\crowded.cpp", source);
+  HWND editor = ide_.editor.buffers.rbegin()->second.window;
+  pumpMessages(300);
+
+  ModalDriver driver;
+  driver.menuScreenshot = "functions-popup-crowded";
+  driver.choices = {0, 0, 191, 0};  // the method search comes through the third
+  std::vector<std::string> lastItems;
+  driver.onMenu = [&](HMENU menu) {
+    const int last = GetMenuItemCount(menu) - 1;
+    char text[64] = {};
+    GetMenuStringA(menu, static_cast<UINT>(last), text, sizeof text, MF_BYPOSITION);
+    const bool grayed = GetMenuState(menu, static_cast<UINT>(last), MF_BYPOSITION) & MF_GRAYED;
+    lastItems.push_back(text + std::string(grayed ? ", grayed" : ""));
+  };
+  const size_t paint = source.find("Paint");
+  SendMessageA(FindWindowExA(editor, nullptr, "EditWindClass", nullptr), EM_SETSEL, paint, paint + 5);
+  for (size_t popup = 0; popup < 3; ++popup) {
+    clickAt(buttonPoint(editor, static_cast<int>(popup)));
+    ASSERT_TRUE(pumpUntil([&] { return driver.menus.size() > popup; }));
+    ASSERT_TRUE(pumpUntil([] { return !menuShown(); }));
+    driver.menuScreenshot.clear();
+  }
+  ASSERT_TRUE(pumpUntil([&] { return driver.menus.size() == 4 && !menuShown(); }, 10000));
+  EXPECT_EQ(lastItems, (std::vector<std::string>{"... 100 more, grayed", "... 20 more, grayed", "Cross reference... ",
+                                                 "... 9000 more, grayed"}));
+  EXPECT_NE(driver.menus[0].find("\n  9999 Paint\n0 ... 100 more\n"), std::string::npos);
+  EXPECT_NE(driver.menus[1].find("\n799 h99.h\n0 ... 20 more\n"), std::string::npos);
+  EXPECT_NE(driver.menus[3].find("\n899 View::Paint\n0 ... 9000 more\n"), std::string::npos);
+  EXPECT_EQ(driver.watchdogFired, 0);
+  stop();
+}

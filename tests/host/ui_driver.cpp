@@ -201,6 +201,7 @@ void ModalDriver::driveMenu(HWND menuWindow) {
   HMENU menu = reinterpret_cast<HMENU>(SendMessageA(menuWindow, MN_GETHMENU, 0, 0));
   if (tick == 1) {
     menus.push_back(describeWin32Menu(menu));
+    if (onMenu) onMenu(menu);
     if (openFirstSubmenu) {
       for (int i = 0; i < GetMenuItemCount(menu); ++i) {
         postKey(menuWindow, VK_DOWN);

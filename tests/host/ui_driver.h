@@ -57,6 +57,8 @@ class ModalDriver {
   std::vector<uint32_t> choices;
   bool openFirstSubmenu = false;
   std::string menuScreenshot;
+  // Called with each menu as it opens, to read what its description leaves out.
+  std::function<void(HMENU menu)> onMenu;
   // The plan for dialogs: only the one captioned dialogTitle (any when empty);
   // the text typed into control 101, then onDialog to read or set its other
   // controls, the screenshot, and the buttons pressed in turn a few ticks apart.

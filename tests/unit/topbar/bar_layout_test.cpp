@@ -1,6 +1,7 @@
 // The bar's settings, placement and command table.
 #include <gtest/gtest.h>
 
+#include "foundation/command_ranges.h"
 #include "foundation/settings.h"
 #include "foundation/settings_file.h"
 #include "support/temp_dir.h"
@@ -59,6 +60,9 @@ TEST(BarCommandsTest, RangesAndStatusTexts) {
   EXPECT_EQ(barCommandFor(188, &index), BarCommand::TitleBarPopup);
   EXPECT_EQ(barCommandFor(179, &index), BarCommand::None);
   EXPECT_EQ(barCommandFor(600, &index), BarCommand::None);
+  EXPECT_EQ(barCommandFor(0, &index), BarCommand::None) << "a popup's grayed \"... N more\"";
+  EXPECT_EQ(barCommandFor(kQuickFindResultCommands.last, &index), BarCommand::QuickFindResult);
+  EXPECT_EQ(index, 99u);
   BarItemNames names;
   names.recentProject = [](uint32_t n) { return "c:\\p" + std::to_string(n) + ".ide"; };
   names.tool = [](uint32_t) { return std::string("app.exe"); };

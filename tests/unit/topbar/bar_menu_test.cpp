@@ -75,4 +75,22 @@ TEST(BarMenuTest, ATargetOfManyFilesBreaksIntoColumnsOfMenuSize) {
   for (size_t i = 0; i < files.size(); ++i) EXPECT_EQ(files[i].columnBreak, i == 50 || i == 100) << i;
 }
 
+TEST(BarMenuTest, RunItemsStopAtTheirRangeAndCountTheRest) {
+  RecentFiles recent;
+  for (const int32_t rest : {0, 3}) {
+    ProjectNode project = node("many.ide", ".ide");
+    for (int32_t i = 0; i < kToolCommands.size() + rest; ++i)
+      project.nodes.push_back(node("t" + std::to_string(i) + ".exe", ".exe"));
+    BarMenuInputs inputs;
+    inputs.recent = &recent;
+    inputs.project = &project;
+    const BarMenu menu = buildBarMenu(inputs);
+    EXPECT_EQ(menu.tools.size(), static_cast<size_t>(kToolCommands.size()));
+    const std::vector<MenuItem>& kesto = menu.bar.items[0].children;
+    const size_t afterTools = static_cast<size_t>(kToolCommands.size());
+    EXPECT_EQ(kesto[afterTools - 1].id, kToolCommands.last);
+    EXPECT_EQ(kesto[afterTools], rest ? MenuItem::more(rest) : MenuItem::separator());
+  }
+}
+
 }  // namespace
