@@ -175,7 +175,7 @@ std::function<void()> withTasks(CliSession& session, Action action) {
   };
 }
 
-void list(TaskSession& session) {
+void listTasks(TaskSession& session) {
   // The row number first: the one that edit and remove take.
   const std::vector<std::string>& rows = session.presenter().rows();
   for (size_t row = 0; row < rows.size(); ++row) std::cout << row << '\t' << rows[row] << '\n';
@@ -234,7 +234,7 @@ void installTasksCommands(CLI::App& command, CliSession& session) {
   auto args = std::make_shared<TaskArguments>();
   command.footer("Prints ROW<TAB>NAME<TAB>TYPE<TAB>STATE<TAB>PRIORITY<TAB>START<TAB>END per task.");
   command.callback([&command, &session] {
-    if (command.get_subcommands().empty()) withTasks(session, list)();
+    if (command.get_subcommands().empty()) withTasks(session, listTasks)();
   });
 
   CLI::App* addCommand = command.add_subcommand("add", "Create a task like \"Create\", then apply the options given; prints its row");
