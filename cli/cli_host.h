@@ -59,4 +59,6 @@ class CliHost : public Host, public AlertHandler {
   std::set<std::string> messages_;  // texts of the message lines, on a shared terminal
   MessageHandle lastMessage_ = 0;
   std::unique_ptr<ProgressBar> progress_;
+  // Whether standard error is a terminal, asked once: a long job reports progress thousands of times.
+  int progressTerminal_ = -1;
 };
