@@ -98,19 +98,24 @@ struct CreationCounting : FaultOs {
   }
 };
 
+// The site of the sources "*.cpp" of dir, as project Demo.
+htGenerationResult generated(const TempDir& dir) {
+  htGenerationResult result;
+  EXPECT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
+  return result;
+}
+
 TEST(HtmlGeneration, RewritesThePagesOfAChangedSourceOrAPageThatWentAndNothingElse) {
   TempDir dir;
   dir.write("a.cpp", "/** a Does\n*/\nCALCUL_INT a(void)\n");
   dir.write("b.cpp", "CALCUL_INT b(void)\n");
-  htGenerationResult first;
-  ASSERT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &first));
+  htGenerationResult first = generated(dir);
   int created = 0;
   int pagesRead = 0;
   auto generate = [&]() {
     CreationCounting counting;
     ScopedOs scoped(counting);
-    htGenerationResult result;
-    EXPECT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
+    htGenerationResult result = generated(dir);
     created = counting.created;
     pagesRead = counting.pagesRead;
     return result;
@@ -137,9 +142,7 @@ TEST(HtmlGeneration, APageNamedTwiceIsWrittenOnceWithTheLastText) {
   TempDir dir;
   dir.write("one/x.cpp", "CALCUL_INT first(void)\n");
   dir.write("two/x.cpp", "CALCUL_INT second(void)\n");
-  htGenerationResult result;
-  ASSERT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
-  EXPECT_EQ(9u, result.pagesWritten);  // five of the project, two of x.cpp, two functions
+  EXPECT_EQ(9u, generated(dir).pagesWritten);  // five of the project, two of x.cpp, two functions
   EXPECT_NE(std::string::npos, dir.read("kHTML/x.cpp Contents.html").find("second"));
   EXPECT_EQ(std::string::npos, dir.read("kHTML/x.cpp Contents.html").find("first"));
 }
