@@ -62,7 +62,8 @@ void CliHost::beep(unsigned, unsigned) {}
 void CliHost::setBusy(bool) {}
 
 void CliHost::showProgress(uint64_t done, uint64_t total, const std::string& item) {
-  if (!progress_ && isatty(STDERR_FILENO)) progress_ = std::make_unique<ProgressBar>();
+  if (progressTerminal_ < 0) progressTerminal_ = isatty(STDERR_FILENO) ? 1 : 0;
+  if (!progress_ && progressTerminal_ == 1) progress_ = std::make_unique<ProgressBar>();
   if (progress_) progress_->show(item, done, total);
 }
 

@@ -70,4 +70,6 @@ class CliHost : public Host, public AlertHandler {
   MessageHandle lastMessage_ = 0;
   std::vector<LocatedLine>* located_ = nullptr;
   std::unique_ptr<ProgressBar> progress_;
+  // Whether standard error is a terminal, asked once: a long job reports progress thousands of times.
+  int progressTerminal_ = -1;
 };

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <cstring>
 #include <iostream>
 #include <string>
 
@@ -40,6 +41,11 @@ bool commandIsKnown(const std::string& word) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // The version alone is what scripts ask most: it needs neither the parser nor the settings.
+  if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
+    std::printf("kesto %s\n", kestoVersion());
+    return kExitOk;
+  }
   const std::string command = commandWord(argc, argv);
   if (!commandIsKnown(command)) return kExitUsage;
   // Into a pipe, each line as it is made: a log shows a long delivery as it goes.

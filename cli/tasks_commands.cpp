@@ -201,7 +201,7 @@ JsonDocument taskDocument(size_t row, const Task& task) {
           {"text", text}};
 }
 
-void list(TaskSession& session, bool json) {
+void listTasks(TaskSession& session, bool json) {
   const std::vector<std::string>& rows = session.presenter().rows();
   if (json) {
     JsonDocument document = JsonDocument::array();
@@ -267,7 +267,7 @@ void installTasksCommands(CLI::App& command, CliSession& session) {
   addJsonFlag(command, args->json);
   command.footer("Prints ROW<TAB>NAME<TAB>TYPE<TAB>STATE<TAB>PRIORITY<TAB>START<TAB>END per task.");
   command.callback([&command, &session, args] {
-    if (command.get_subcommands().empty()) withTasks(session, [args](TaskSession& s) { list(s, args->json); })();
+    if (command.get_subcommands().empty()) withTasks(session, [args](TaskSession& s) { listTasks(s, args->json); })();
   });
 
   CLI::App* addCommand = command.add_subcommand("add", "Create a task like \"Create\", then apply the options given; prints its row");

@@ -26,3 +26,13 @@ std::vector<std::string> findHtSourceFiles(const std::string& directory, const s
 // a consistency check stopped the reading (the box has been shown).
 bool buildHtProject(htProjet& project, const htProgress& progress = nullptr,
                     std::vector<SkippedPath>* skipped = nullptr);
+// The same from the files a walk found; *skipped holds what the walk left out
+// and gets the sources that could not be read.
+bool buildHtProject(htProjet& project, const std::vector<std::string>& paths, const htProgress& progress,
+                    std::vector<SkippedPath>* skipped);
+
+// The digest of all a site is made from: the pages' format, the project's name,
+// the filters and each found file's path, companion and bytes, read as
+// buildHtProject reads them. False when one could not be read.
+bool htInputDigest(const htProjet& project, const std::vector<std::string>& paths, const htProgress& progress,
+                   std::string* digest);

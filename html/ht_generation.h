@@ -31,7 +31,9 @@ struct htGenerationResult {
 // The work of one generation, counted as running from start to end: builds the
 // model of directory with the filters, writes every page into the site
 // directory (created if missing; pages overwritten unless they already hold the
-// same bytes), frees the model. A page that cannot be created is skipped. False when a consistency check stopped it.
+// same bytes), frees the model. A page that cannot be created is skipped. When the
+// site's record (ht_site_record.h) holds the digest of the same inputs and every
+// page is as recorded, nothing is written. False when a consistency check stopped it.
 bool runHtmlGeneration(const std::string& directory, const std::string& filters, const std::string& projectName,
                        htGenerationResult* result, const htProgress& progress = nullptr);
 

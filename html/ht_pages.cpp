@@ -1,6 +1,7 @@
 // The page texts of the documentation site, byte for byte.
 #include "html/ht_pages.h"
 
+#include <iterator>
 #include <unordered_map>
 #include <vector>
 
@@ -20,6 +21,12 @@ std::string head(const std::string& baseName, bool withBody) {
 }
 
 std::string tail(bool withBody) { return withBody ? "</body>\n\n</html>\n" : "</html>\n"; }
+
+std::string titlePageName(const std::string& name) { return name + " Title.html"; }
+std::string fileListPageName(const std::string& name) { return name + " FileList.html"; }
+std::string contentsPageName(const std::string& name) { return name + " Contents.html"; }
+std::string presentationPageName(const std::string& name) { return name + " Presentation.html"; }
+std::string classPageName(const std::string& name) { return "Class " + name + ".html"; }
 
 class SiteWriter {
  public:
@@ -42,25 +49,25 @@ class SiteWriter {
     };
     emit(htFramesetFileName(p), frameset(p), false);
     step();
-    emit(p + " Title.html", title(p), true);
+    emit(titlePageName(p), title(p), true);
     step();
-    emit(p + " Contents.html", contents(p, project_.classes, project_.functions, project_.macros), true);
+    emit(contentsPageName(p), contents(p, project_.classes, project_.functions, project_.macros), true);
     step();
-    emit(p + " FileList.html", fileList(p), true);
+    emit(fileListPageName(p), fileList(p), true);
     step();
-    emit(p + " Presentation.html", projectPresentation(p), true);
+    emit(presentationPageName(p), projectPresentation(p), true);
     step();
     for (int32_t i = 0; i < project_.files.count(); ++i) {
       htFile& file = *project_.files[i];
       std::string f = text(file.name);
-      emit(f + " Contents.html", contents(f, file.classes, file.functions, file.macros), true);
+      emit(contentsPageName(f), contents(f, file.classes, file.functions, file.macros), true);
       step();
-      emit(f + " Presentation.html", filePresentation(file), true);
+      emit(presentationPageName(f), filePresentation(file), true);
       step();
     }
     for (int32_t i = 0; i < project_.classes.count(); ++i) {
       htClass& entry = *project_.classes[i];
-      emit("Class " + text(entry.name) + ".html", classPage(entry), true);
+      emit(classPageName(text(entry.name)), classPage(entry), true);
       step();
     }
     for (const auto* all : {&project_.functions, &project_.macros}) {
@@ -247,6 +254,23 @@ class SiteWriter {
 }  // namespace
 
 std::string htFramesetFileName(const std::string& projectName) { return "Documentation " + projectName + ".html"; }
+
+std::map<std::string, size_t> htRepeatedPageNames(const htProjet& project) {
+  // Function and macro pages are numbered apart; the others are named after what they show.
+  std::map<std::string, size_t> times;
+  std::string p = text(project.name);
+  for (const std::string& name : {htFramesetFileName(p), titlePageName(p), contentsPageName(p),
+                                  fileListPageName(p), presentationPageName(p)})
+    ++times[name];
+  for (int32_t i = 0; i < project.files.count(); ++i) {
+    std::string f = text(project.files[i]->name);
+    ++times[contentsPageName(f)];
+    ++times[presentationPageName(f)];
+  }
+  for (int32_t i = 0; i < project.classes.count(); ++i) ++times[classPageName(text(project.classes[i]->name))];
+  for (auto name = times.begin(); name != times.end();) name = name->second > 1 ? std::next(name) : times.erase(name);
+  return times;
+}
 
 bool writeHtSite(htProjet& project, htPageSink& sink, const htProgress& progress) {
   return SiteWriter(project, sink).write(progress);

@@ -1,6 +1,8 @@
 // A generation on disk: the site directory, pages that cannot be created, and the one-at-a-time guard.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "html/ht_generation.h"
 #include "support/fake_host.h"
 #include "support/fault_os.h"
@@ -68,6 +70,10 @@ TEST(HtmlGeneration, AFailureOfAnyFileOperationLeavesOnlyWholePages) {
     }
     std::vector<DirectoryEntry> pages;
     platformOs().listDirectory(dir.file("kHTML"), &pages, nullptr);
+    // The record of the site is no page.
+    pages.erase(std::remove_if(pages.begin(), pages.end(),
+                               [](const DirectoryEntry& entry) { return entry.name == ".kesto-site"; }),
+                pages.end());
     EXPECT_EQ(result.pagesWritten, pages.size());
     // Pages are text files: CR LF ends their lines on Windows.
     const std::string end = kPathSeparator == '\\' ? "</html>\r\n" : "</html>\n";
@@ -76,6 +82,69 @@ TEST(HtmlGeneration, AFailureOfAnyFileOperationLeavesOnlyWholePages) {
       EXPECT_EQ(end, text.substr(text.size() > end.size() ? text.size() - end.size() : 0)) << page.name;
     }
   }
+}
+
+struct CreationCounting : FaultOs {
+  int created = 0;
+  int pagesRead = 0;
+  bool readFile(const std::string& p, std::string* d, std::string* e) override {
+    if (p.find("kHTML") != std::string::npos && p.find(".kesto-site") == std::string::npos) ++pagesRead;
+    return FaultOs::readFile(p, d, e);
+  }
+  std::unique_ptr<OsFile> createNewFile(const std::string& p, const std::string& l, FinalMode m, bool r, bool* x,
+                                        std::string* e) override {
+    ++created;
+    return FaultOs::createNewFile(p, l, m, r, x, e);
+  }
+};
+
+// The site of the sources "*.cpp" of dir, as project Demo.
+htGenerationResult generated(const TempDir& dir) {
+  htGenerationResult result;
+  EXPECT_TRUE(runHtmlGeneration(dir.path(), "*.cpp", "Demo", &result));
+  return result;
+}
+
+TEST(HtmlGeneration, RewritesThePagesOfAChangedSourceOrAPageThatWentAndNothingElse) {
+  TempDir dir;
+  dir.write("a.cpp", "/** a Does\n*/\nCALCUL_INT a(void)\n");
+  dir.write("b.cpp", "CALCUL_INT b(void)\n");
+  htGenerationResult first = generated(dir);
+  int created = 0;
+  int pagesRead = 0;
+  auto generate = [&]() {
+    CreationCounting counting;
+    ScopedOs scoped(counting);
+    htGenerationResult result = generated(dir);
+    created = counting.created;
+    pagesRead = counting.pagesRead;
+    return result;
+  };
+  htGenerationResult same = generate();
+  EXPECT_EQ(0, created);
+  EXPECT_EQ(0, pagesRead);
+  EXPECT_EQ(first.pagesWritten, same.pagesUnchanged);
+  // The same size, and likely the same second: the bytes tell the change.
+  dir.write("a.cpp", "/** a Went\n*/\nCALCUL_INT a(void)\n");
+  htGenerationResult changed = generate();
+  EXPECT_EQ(2u, changed.pagesWritten);  // the function's page and its file's presentation
+  EXPECT_NE(std::string::npos, dir.read("kHTML/Fnc a 0.html").find("Went"));
+  EXPECT_NE(std::string::npos, dir.read("kHTML/a.cpp Presentation.html").find("Went"));
+  ASSERT_TRUE(platformOs().removeFile(dir.file("kHTML/Fnc b 1.html"), nullptr));
+  EXPECT_EQ(1u, generate().pagesWritten);
+  EXPECT_TRUE(platformOs().exists(dir.file("kHTML/Fnc b 1.html")));
+  dir.write("a.cpp.txt", "/** b Told apart\n*/\n");
+  EXPECT_LT(0u, generate().pagesWritten);
+  EXPECT_NE(std::string::npos, dir.read("kHTML/Fnc b 1.html").find("Told apart"));
+}
+
+TEST(HtmlGeneration, APageNamedTwiceIsWrittenOnceWithTheLastText) {
+  TempDir dir;
+  dir.write("one/x.cpp", "CALCUL_INT first(void)\n");
+  dir.write("two/x.cpp", "CALCUL_INT second(void)\n");
+  EXPECT_EQ(9u, generated(dir).pagesWritten);  // five of the project, two of x.cpp, two functions
+  EXPECT_NE(std::string::npos, dir.read("kHTML/x.cpp Contents.html").find("second"));
+  EXPECT_EQ(std::string::npos, dir.read("kHTML/x.cpp Contents.html").find("first"));
 }
 
 TEST(HtmlGeneration, ReadsUtf16SourcesAndNamesTheSourcesItCouldNotRead) {
