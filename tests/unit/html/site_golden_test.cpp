@@ -1,6 +1,9 @@
 // Golden sites: each case's sources give exactly its pages, in the order of writing, byte for byte.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
 #include <map>
 
 #include "foundation/os.h"
@@ -40,6 +43,38 @@ TEST(HtmlSiteGolden, EveryCaseGivesItsPagesByteForByte) {
       EXPECT_EQ("", goldenDifference("html", name, file, readGolden("html", name, file), recorded.pages[page.name]));
     }
   }
+}
+
+// FNV-1a over every golden page, names and bytes, in case and name order.
+uint64_t goldenPagesDigest() {
+  uint64_t digest = 14695981039346656037ull;
+  auto add = [&digest](const std::string& bytes) {
+    for (unsigned char c : bytes) digest = (digest ^ c) * 1099511628211ull;
+  };
+  for (const std::string& name : goldenCases("html")) {
+    std::vector<DirectoryEntry> pages;
+    platformOs().listDirectory(joinPath(goldenPath("html", name), "out"), &pages, nullptr);
+    std::sort(pages.begin(), pages.end(), [](const DirectoryEntry& a, const DirectoryEntry& b) { return a.name < b.name; });
+    for (const DirectoryEntry& page : pages) {
+      add(name + "/" + page.name);
+      add(readGolden("html", name, joinPath("out", page.name)));
+    }
+  }
+  return digest;
+}
+
+// An unchanged site is kept when its record carries the same page format, so
+// golden pages that change under the same format number would leave users'
+// sites stale. The last line of pages_format pairs the number with the pages.
+TEST(HtmlSiteGolden, NewPageBytesComeWithANewFormatNumber) {
+  char expected[64];
+  std::snprintf(expected, sizeof expected, "%" PRIu64 " %016" PRIx64, kHtPagesFormat, goldenPagesDigest());
+  std::string recorded;
+  platformOs().readFile(joinPath(goldenPath("html"), "pages_format"), &recorded, nullptr);
+  std::string last = recorded.substr(recorded.rfind('\n', recorded.size() - 2) + 1);
+  EXPECT_EQ(last, std::string(expected) + "\n")
+      << "The golden pages or kHtPagesFormat changed: when the pages changed, raise kHtPagesFormat in "
+         "html/ht_pages.h and append the line \"" << expected << "\" to tests/data/html/pages_format.";
 }
 
 }  // namespace
