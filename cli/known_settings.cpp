@@ -1,74 +1,81 @@
-// The table of the settings the add-on and kesto read.
+// The table of known settings, gathered by running the features' readers once
+// against an empty store: the defaults are the readers' own, never copied.
 #include "cli/known_settings.h"
 
+#include "cli/build_number.h"
 #include "cli/sendmail_transport.h"
+#include "completion/completion_engine.h"
+#include "delivery/mail.h"
 #include "foundation/regedit_text.h"
+#include "foundation/settings.h"
 #include "groupware/groupware_settings.h"
 #include "html/html_settings.h"
+#include "navigation/quickfind_settings.h"
+#include "navigation/source_scanner.h"
+#include "project/general_options.h"
+#include "tasks/task_list.h"
+#include "topbar/recent_files.h"
+#include "topbar/top_bar_settings.h"
+
+namespace {
+
+// Every value absent, so that each reader asks for its default.
+class EmptyStore : public SettingsBackend {
+ public:
+  bool read(const std::string&, const std::string&, size_t, std::string*) override { return false; }
+  bool write(const std::string&, const std::string&, const std::string&) override { return false; }
+  bool list(const std::string&, std::vector<SettingsValue>*) override { return false; }
+  std::vector<std::string> subkeys(const std::string&) override { return {}; }
+};
+
+class Collector : public SettingsReadObserver {
+ public:
+  void onRead(const std::string& section, const std::string& name, bool integer,
+              const std::string& defaultText) override {
+    if (!findIn(known, section, name)) known.push_back({section, name, integer, defaultText});
+  }
+  static const KnownSetting* findIn(const std::vector<KnownSetting>& settings, const std::string& section,
+                                    const std::string& name) {
+    for (const KnownSetting& setting : settings)
+      if (foldedCase(setting.section) == foldedCase(section) && foldedCase(setting.name) == foldedCase(name))
+        return &setting;
+    return nullptr;
+  }
+  std::vector<KnownSetting> known;
+};
+
+std::vector<KnownSetting> collectKnownSettings() {
+  SettingsStore& store = settings();
+  SettingsBackend* backend = store.backend();
+  EmptyStore empty;
+  Collector collector;
+  store.setBackend(&empty);
+  store.setReadObserver(&collector);
+  // In the order of the options dialog's pages.
+  GeneralOptions::read();
+  MenuSettings::read();
+  QuickFindSettings::read();
+  TopBarSettings::read(true);
+  RecentFiles().load();
+  CompletionEngine().readSettings();
+  Mail().loadSettings();
+  sendmailCommand();
+  TaskList().loadSettings();
+  GroupwareSettings().load();
+  HtmlSettings::read("");
+  storedBuildNumber();
+  store.setReadObserver(nullptr);
+  store.setBackend(backend);
+  return collector.known;
+}
+
+}  // namespace
 
 const std::vector<KnownSetting>& knownSettings() {
-  static const std::vector<KnownSetting> kSettings = {
-      {"General", "ClearOnMake", true, "1"},
-      {"General", "CloseOnMake", true, "1"},
-      {"General", "CloseProjectOnMake", true, "1"},
-      {"General", "IconizeStatusOnMake", true, "1"},
-      {"General", "ViewOnOpen", true, "0"},
-      {"General", "TimerSave", true, "1"},
-      {"General", "TimerCount", true, "5"},
-      {"General", "Unic", true, "1"},
-      {"Menus", "Enabled", true, "1"},
-      {"Menus", "Sorted", true, "1"},
-      {"Menus", "Size", true, "50"},
-      {"QuickFind", "FunctionMask", false, "*.cpp;*.cc;*.c"},
-      {"QuickFind", "IncludeMask", false, "*.h;*.rh"},
-      {"QuickFind", "Recurse", true, "1"},
-      {"QuickFind", "LeftSide", true, "1"},
-      {"QuickFind", "KeyFunction", true, "0"},
-      {"QuickFind", "KeyMethod", true, "0"},
-      {"QuickFind", "KeyClass", true, "0"},
-      {"QuickFind", "KeyCross", true, "0"},
-      {"QuickFind", "TxtFunction", false, "???"},
-      {"QuickFind", "TxtMethod", false, "???"},
-      {"QuickFind", "TxtClass", false, "???"},
-      {"QuickFind", "TxtCross", false, "???"},
-      {"TopBar", "Enabled", true, "1"},
-      {"TopBar", "HideWithBCW", true, "1"},
-      {"TopBar", "HideWithView", true, "0"},
-      {"TopBar", "AlwaysOnTop", true, "0"},
-      {"TopBar", "EditOtherView", true, "0"},
-      {"TopBar", "LeftMargin", true, "-1"},
-      {"TopBar", "RightMargin", true, "58"},
-      {"TopBar", "MenuSize", true, "50"},
-      {"TopBar", "Hierarchical", true, "0"},
-      {"TopBar", "MaxIDE", true, "10"},
-      {"TopBar", "MaxINC", true, "50"},
-      {"Completion", "Enabled", true, "1"},
-      {"Completion", "KeyCode", true, "222"},
-      {"Completion", "TextCode", false, "???"},
-      {"Mail", "Control", true, "0"},
-      {"Mail", "Sendmail", false, kSendmailDefault},
-      {"Tasks", "FlashToDo", true, "1"},
-      {"Tasks", "FlashCoded", true, "1"},
-      {"Tasks", "FlashTested", true, "1"},
-      {"Tasks", "FlashEnded", true, "0"},
-      {"Tasks", "MainOn", true, "1"},
-      {"Tasks", "KeyIsDelivery", true, "1"},
-      {"Tasks", "EndedReadOnly", true, "1"},
-      {"Tasks", "AutoFlash", true, "1"},
-      {"Tasks", "Types", false, "Design;Evolution;Bug;Documentation"},
-      {"Groupware", "Enabled", true, "1"},
-      {"Groupware", "MailOnSend", true, "1"},
-      {"Groupware", "MailOnGet", true, "0"},
-      {"Groupware", "Filters", false, GroupwareSettings::kDefaultFilters},
-      {"HTML", "Filters", false, HtmlSettings::kDefaultFilters},
-      {"Make", "BuildNumber", true, "0"},
-  };
-  return kSettings;
+  static const std::vector<KnownSetting> known = collectKnownSettings();
+  return known;
 }
 
 const KnownSetting* findKnownSetting(const std::string& section, const std::string& name) {
-  for (const KnownSetting& setting : knownSettings())
-    if (foldedCase(setting.section) == foldedCase(section) && foldedCase(setting.name) == foldedCase(name))
-      return &setting;
-  return nullptr;
+  return Collector::findIn(knownSettings(), section, name);
 }

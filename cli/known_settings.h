@@ -6,10 +6,10 @@
 #include <vector>
 
 struct KnownSetting {
-  const char* section;
-  const char* name;
+  std::string section;
+  std::string name;
   bool integer;          // read as an integer; otherwise as text
-  const char* fallback;  // the value used while none is stored
+  std::string fallback;  // the value used while none is stored
 };
 
 // Every single-valued setting, by section in the order of the options dialog's pages.

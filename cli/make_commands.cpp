@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "cli/build_number.h"
 #include "cli/cli_session.h"
 #include "cli/command_table.h"
 #include "cli/html_site.h"
 #include "cli/integer_options.h"
-#include "foundation/settings.h"
 #include "html/ht_generation.h"
 #include "rcgen/make_sequence.h"
 
@@ -26,11 +26,6 @@ struct MakeArguments {
   std::vector<std::string> command;
   int32_t build = -1;  // -1: the counter kept in the settings
 };
-
-// The build counter that stamping raises, kept between runs (the add-on keeps
-// it for the life of the IDE).
-constexpr const char* kBuildSection = "Make";
-constexpr const char* kBuildName = "BuildNumber";
 
 // The build being waited for; the handler passes it Ctrl-C and SIGTERM, so
 // that kesto ends with the build, not before it.
@@ -92,9 +87,9 @@ void make(CliSession& session, const MakeArguments& args) {
   MakeSequence sequence;
   if (const ProjectOptions* options = session.options()) sequence.setOptions(*options);
   RcGenerator& generator = sequence.generator;
-  generator.buildNumber = args.build >= 0 ? args.build : settings().readInteger(kBuildSection, kBuildName, 0);
+  generator.buildNumber = args.build >= 0 ? args.build : storedBuildNumber();
   sequence.started(session.host());
-  if (generator.versionGeneration) settings().writeInteger(kBuildSection, kBuildName, generator.buildNumber);
+  if (generator.versionGeneration) storeBuildNumber(generator.buildNumber);
   int status = args.command.empty() ? 0 : runBuild(args.command);
   const std::string name = htProjectName(session.project()->path());
   sequence.ended(session.host(), status == 0, [&session, &name](const std::string& directory, const std::string& filters) {

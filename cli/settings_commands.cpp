@@ -64,9 +64,9 @@ void set(CliSession& session, const SettingsArguments& args) {
 // The value the add-on works with: an integer setting whose text is no number reads as its default.
 std::string effectiveValue(const KnownSetting& setting) {
   if (setting.integer)
-    return std::to_string(settings().readInteger(setting.section, setting.name, std::atoi(setting.fallback)));
+    return std::to_string(settings().readInteger(setting.section, setting.name, std::atoi(setting.fallback.c_str())));
   std::string text;
-  settings().readString(setting.section, setting.name, &text, setting.fallback);
+  settings().readString(setting.section, setting.name, &text, setting.fallback.c_str());
   return text;
 }
 
@@ -83,7 +83,7 @@ void listKnown(const SettingsArguments& args, JsonDocument* document) {
                            {"default", setting.fallback},
                            {"set", isSet}});
     else
-      std::cout << (args.section.empty() ? std::string(setting.section) + "\t" : "") << setting.name << '\t'
+      std::cout << (args.section.empty() ? setting.section + "\t" : "") << setting.name << '\t'
                 << effectiveValue(setting) << '\t' << setting.fallback << '\t' << (isSet ? "set" : "default")
                 << '\n';
   }

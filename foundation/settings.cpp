@@ -31,10 +31,15 @@ bool SettingsStore::writeString(const std::string& section, const std::string& n
   return backend_ && backend_->write(keyPath(section), name, text);
 }
 
+bool SettingsStore::readStored(const std::string& section, const std::string& name, std::string* text) {
+  return backend_ && backend_->read(keyPath(section), name, kScratchBytes, text);
+}
+
 bool SettingsStore::readString(const std::string& section, const std::string& name, std::string* out,
                                const char* defaultText) {
+  if (observer_ && defaultText) observer_->onRead(section, name, false, defaultText);
   std::string text;
-  if (backend_ && backend_->read(keyPath(section), name, kScratchBytes, &text)) {
+  if (readStored(section, name, &text)) {
     *out = text;
     return true;
   }
@@ -48,15 +53,19 @@ bool SettingsStore::writeInteger(const std::string& section, const std::string& 
 }
 
 int32_t SettingsStore::readInteger(const std::string& section, const std::string& name, int32_t defaultValue) {
+  if (observer_) observer_->onRead(section, name, true, std::to_string(defaultValue));
+  return readStoredInteger(section, name, defaultValue);
+}
+
+int32_t SettingsStore::readStoredInteger(const std::string& section, const std::string& name, int32_t defaultValue) {
   std::string text;
-  std::string fallback = std::to_string(defaultValue);
-  readString(section, name, &text, fallback.c_str());
   int32_t value = defaultValue;
-  return parseInteger(text, &value) ? value : defaultValue;
+  return readStored(section, name, &text) && parseInteger(text, &value) ? value : defaultValue;
 }
 
 std::vector<std::string> SettingsStore::readList(const std::string& section, const std::string& list) {
-  int32_t count = readInteger(section, "Nb" + list, 0);
+  // A list's count is storage, not a setting of its own.
+  int32_t count = readStoredInteger(section, "Nb" + list, 0);
   // One listing of the entries' key, not one read each: a file backend parses
   // the whole file on every read.
   std::vector<SettingsValue> stored;

@@ -27,6 +27,16 @@ class SettingsBackend {
   virtual std::vector<std::string> subkeys(const std::string& keyPath) = 0;
 };
 
+// Told of every single value read with a default, with its kind: the defaults
+// live in the readers alone, and whoever needs a table of them (kesto's list of
+// known settings) runs the readers with an observer.
+class SettingsReadObserver {
+ public:
+  virtual ~SettingsReadObserver() = default;
+  virtual void onRead(const std::string& section, const std::string& name, bool integer,
+                      const std::string& defaultText) = 0;
+};
+
 // The process-wide store. Reads fall back to defaults silently; writes report
 // failure as false, which callers may ignore.
 class SettingsStore {
@@ -40,6 +50,8 @@ class SettingsStore {
   // Installs the backend (not owned); null makes every read a default and every write fail.
   void setBackend(SettingsBackend* backend) { backend_ = backend; }
   SettingsBackend* backend() const { return backend_; }
+  // Not owned; null for none.
+  void setReadObserver(SettingsReadObserver* observer) { observer_ = observer; }
 
   // "root\section".
   std::string keyPath(const std::string& section) const;
@@ -58,8 +70,12 @@ class SettingsStore {
   bool writeList(const std::string& section, const std::string& list, const std::vector<std::string>& entries);
 
  private:
+  bool readStored(const std::string& section, const std::string& name, std::string* text);
+  int32_t readStoredInteger(const std::string& section, const std::string& name, int32_t defaultValue);
+
   std::string root_ = kAddOnRoot;
   SettingsBackend* backend_ = nullptr;
+  SettingsReadObserver* observer_ = nullptr;
 };
 
 SettingsStore& settings();

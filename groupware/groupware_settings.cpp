@@ -11,8 +11,8 @@ constexpr const char* kSection = "Groupware";
 
 void GroupwareSettings::load() {
   enabled = settings().readInteger(kSection, "Enabled", 1);
-  mailOnGet = settings().readInteger(kSection, "MailOnGet", 0);
   mailOnSend = settings().readInteger(kSection, "MailOnSend", 1);
+  mailOnGet = settings().readInteger(kSection, "MailOnGet", 0);
   std::string text;
   settings().readString(kSection, "Filters", &text, kDefaultFilters);
   filters = text;

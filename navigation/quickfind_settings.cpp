@@ -16,10 +16,10 @@ QuickFindSettings QuickFindSettings::read() {
   SettingsStore& store = settings();
   store.readString(kSection, "FunctionMask", &values.functionMask, "*.cpp;*.cc;*.c");
   store.readString(kSection, "IncludeMask", &values.includeMask, "*.h;*.rh");
-  for (size_t i = 0; i < 4; ++i) store.readString(kSection, kTextNames[i], &values.keyTexts[i], "???");
   values.recurse = store.readInteger(kSection, "Recurse", 1) != 0;
   values.leftSide = store.readInteger(kSection, "LeftSide", 1) != 0;
   for (size_t i = 0; i < 4; ++i) values.keys[i] = static_cast<uint16_t>(store.readInteger(kSection, kKeyNames[i], 0));
+  for (size_t i = 0; i < 4; ++i) store.readString(kSection, kTextNames[i], &values.keyTexts[i], "???");
   return values;
 }
 

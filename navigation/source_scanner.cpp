@@ -15,9 +15,9 @@ constexpr const char* kSection = "Menus";
 
 MenuSettings MenuSettings::read() {
   MenuSettings values;
+  values.enabled = settings().readInteger(kSection, "Enabled", 1) != 0;
   values.sorted = settings().readInteger(kSection, "Sorted", 1) != 0;
   values.size = settings().readInteger(kSection, "Size", 50);
-  values.enabled = settings().readInteger(kSection, "Enabled", 1) != 0;
   return values;
 }
 

@@ -34,6 +34,27 @@ TEST_F(SettingsTest, DefaultsApplyAtReadTimeAndWriteNothing) {
   EXPECT_FALSE(os().exists(file_.path())) << "reading never creates anything";
 }
 
+// The observer is how kesto lists the known settings: each single read once,
+// with its kind and default, whatever is stored; a list's count is not one.
+TEST_F(SettingsTest, AnObserverHearsEachReadWithItsKindAndDefault) {
+  struct Heard : SettingsReadObserver {
+    void onRead(const std::string& section, const std::string& name, bool integer, const std::string& text) override {
+      reads.push_back(section + "/" + name + (integer ? " int " : " text ") + text);
+    }
+    std::vector<std::string> reads;
+  } heard;
+  store_.writeInteger("Menus", "Size", 7);
+  store_.setReadObserver(&heard);
+  EXPECT_EQ(store_.readInteger("Menus", "Size", 50), 7);
+  std::string text;
+  store_.readString("Mail", "Sendmail", &text, "sendmail -t");
+  store_.readString("Mail", "Unset", &text, nullptr);
+  store_.readList("Completion", "Files");
+  store_.setReadObserver(nullptr);
+  store_.readInteger("Menus", "Sorted", 1);
+  EXPECT_EQ(heard.reads, (std::vector<std::string>{"Menus/Size int 50", "Mail/Sendmail text sendmail -t"}));
+}
+
 TEST_F(SettingsTest, IntegersAreStoredAsTextAndBadTextGivesTheDefault) {
   ASSERT_TRUE(store_.writeInteger("General", "Unic", -1));
   std::string text;
