@@ -5,6 +5,8 @@ standard output, standard error, the exit status and, optionally, files left beh
 A case folder holds:
   args      the arguments, one per line (required)
   setup/    copied into the temporary directory, which is the working directory
+  setup_of  the name of another case whose setup/ this one uses (one set of files
+            for the cases that run other commands on it)
   prepare   a shell script run there after the copy, for what a folder cannot hold
             (FIFOs, links to devices, very deep or very large files)
   stdin     fed to standard input (default: nothing)
@@ -64,6 +66,9 @@ def main():
     with tempfile.TemporaryDirectory(prefix="kesto-cli-") as tmp:
         tmp = os.path.realpath(tmp)
         setup = os.path.join(case, "setup")
+        shared = read(os.path.join(case, "setup_of")).decode().strip()
+        if shared:
+            setup = os.path.join(os.path.dirname(os.path.abspath(case)), shared, "setup")
         if os.path.isdir(setup):
             shutil.copytree(setup, tmp, dirs_exist_ok=True)
         prepare = os.path.join(case, "prepare")

@@ -1,1 +1,0 @@
-void Doc::Paint(void)

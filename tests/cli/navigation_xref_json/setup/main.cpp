@@ -1,5 +1,0 @@
-void frame()
-{
-	RePaint();
-	Paint(2);
-}

@@ -1,6 +1,0 @@
-void Paint(int x)
-{
-    Paint(x - 1);  /* twice: Paint */
-}
-
-int PaintAll;
