@@ -28,18 +28,21 @@ class EmptyStore : public SettingsBackend {
   std::vector<std::string> subkeys(const std::string&) override { return {}; }
 };
 
+// Compared as the registry compares names, without regard to case.
+const KnownSetting* findIn(const std::vector<KnownSetting>& settings, const std::string& section,
+                           const std::string& name) {
+  for (const KnownSetting& setting : settings)
+    if (foldedCase(setting.section) == foldedCase(section) && foldedCase(setting.name) == foldedCase(name))
+      return &setting;
+  return nullptr;
+}
+
+// Each setting once, at its first read.
 class Collector : public SettingsReadObserver {
  public:
   void onRead(const std::string& section, const std::string& name, bool integer,
               const std::string& defaultText) override {
     if (!findIn(known, section, name)) known.push_back({section, name, integer, defaultText});
-  }
-  static const KnownSetting* findIn(const std::vector<KnownSetting>& settings, const std::string& section,
-                                    const std::string& name) {
-    for (const KnownSetting& setting : settings)
-      if (foldedCase(setting.section) == foldedCase(section) && foldedCase(setting.name) == foldedCase(name))
-        return &setting;
-    return nullptr;
   }
   std::vector<KnownSetting> known;
 };
@@ -77,5 +80,5 @@ const std::vector<KnownSetting>& knownSettings() {
 }
 
 const KnownSetting* findKnownSetting(const std::string& section, const std::string& name) {
-  return Collector::findIn(knownSettings(), section, name);
+  return findIn(knownSettings(), section, name);
 }

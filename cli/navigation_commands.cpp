@@ -90,11 +90,11 @@ void locateInclude(CliSession& session, const NavigationArguments& args) {
     session.exitStatus = kExitNothing;
 }
 
-// The hits of find, as lines or as one document at the end.
+// The hits of find, as lines as they come or as one document at the end.
 class HitPrinter {
  public:
   explicit HitPrinter(bool json) : json_(json) {}
-  ~HitPrinter() {
+  void finish() {
     if (json_) printJson(document_);
   }
   void print(const std::string& file, int32_t line, const std::string& text) {
@@ -143,6 +143,7 @@ void findDefinition(CliSession& session, const NavigationArguments& args, QuickC
     session.host().releaseStatus({hit.file + " : " + std::to_string(hit.line)});
     if (found) printer.print(hit.file, hit.line, hit.text);
   }
+  printer.finish();
   if (!found) session.exitStatus = kExitNothing;
 }
 
