@@ -24,7 +24,7 @@ void splitTypeName(const std::string& typeName, OptionReference* option) {
 
 OptionReference optionOf(const CLI::Option& source) {
   OptionReference option;
-  option.positional = source.nonpositional() == false;
+  option.positional = !source.nonpositional();
   option.required = source.get_required();
   option.description = source.get_description();
   if (option.positional) {
